@@ -1,0 +1,31 @@
+// jeer: composes sentences in a terminal and looks after the word-list files.
+#include <cstdio>
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/commands.h"
+
+int main(int argc, char** argv) {
+  CLI::App app{
+      "jeer composes Jeerbox sentences in a terminal and packs, unpacks and checks\n"
+      "the scrambled word-list files in System/.",
+      "jeer"};
+  app.require_subcommand(1);
+  app.fallthrough(false);
+  int exitCode = 0;
+  jeerbox::AddComposeCommands(app, &exitCode);
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::CallForHelp& e) {
+    return app.exit(e);
+  } catch (const CLI::CallForAllHelp& e) {
+    return app.exit(e);
+  } catch (const CLI::ParseError& e) {
+    std::cerr << "jeer: " << e.what() << " (try: jeer --help)\n";
+    return jeerbox::kExitUsage;
+  }
+  std::fflush(stdout);
+  return exitCode;
+}

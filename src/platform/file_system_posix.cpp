@@ -1,0 +1,69 @@
+// The POSIX file system: stat for existence, one open/read/close per file.
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "platform/file_system.h"
+
+namespace jeerbox {
+namespace {
+
+IFileSystem* gFileSystem = nullptr;
+
+bool ReadAll(int fd, std::string* contents) {
+  struct stat info {};
+  if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) return false;
+  contents->resize(static_cast<size_t>(info.st_size));
+  size_t done = 0;
+  // The size from fstat is a hint: a file that grows or shrinks while we
+  // read still comes back whole and consistent with what read() saw.
+  for (;;) {
+    if (done == contents->size()) contents->resize(done + 4096);
+    ssize_t n = read(fd, &(*contents)[done], contents->size() - done);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return false;
+    if (n == 0) break;
+    done += static_cast<size_t>(n);
+  }
+  contents->resize(done);
+  return true;
+}
+
+}  // namespace
+
+std::string NativePath(const std::string& path) {
+  std::string native = path;
+  for (char& c : native)
+    if (c == '\\') c = '/';
+  return native;
+}
+
+bool RealFileSystem::FileExists(const std::string& path) {
+  struct stat info {};
+  return stat(NativePath(path).c_str(), &info) == 0;
+}
+
+FileStatus RealFileSystem::ReadFile(const std::string& path, std::string* contents) {
+  contents->clear();
+  int fd = open(NativePath(path).c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) return errno == ENOENT || errno == ENOTDIR ? FileStatus::kNotFound : FileStatus::kError;
+  bool ok = ReadAll(fd, contents);
+  close(fd);
+  if (!ok) contents->clear();
+  return ok ? FileStatus::kOk : FileStatus::kError;
+}
+
+IFileSystem& CurrentFileSystem() {
+  static RealFileSystem real;
+  return gFileSystem ? *gFileSystem : real;
+}
+
+IFileSystem* SetFileSystem(IFileSystem* fs) {
+  IFileSystem* previous = gFileSystem;
+  gFileSystem = fs;
+  return previous;
+}
+
+}  // namespace jeerbox

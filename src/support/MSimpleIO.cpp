@@ -1,0 +1,48 @@
+// File helpers over the platform's file system, and pure path helpers.
+#include "support/MSimpleIO.h"
+
+#include "platform/file_system.h"
+
+namespace jeerbox {
+
+bool FileExists(const std::string& path) { return CurrentFileSystem().FileExists(path); }
+
+std::string ReadWholeFile(const std::string& path) {
+  std::string contents;
+  if (CurrentFileSystem().ReadFile(path, &contents) != FileStatus::kOk) contents.clear();
+  return contents;
+}
+
+std::string StripPath(const std::string& path) {
+  const size_t slash = path.rfind('\\');
+  return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+// A "." in front of the last "\" belongs to a directory; it isn't taken as
+// an extension, so "C:\a.b\name" keeps its name whole.
+std::string StripExtension(const std::string& path) {
+  const size_t dot = path.rfind('.');
+  if (dot == std::string::npos) return path;
+  const size_t slash = path.rfind('\\');
+  if (slash != std::string::npos && slash > dot) return path;
+  return path.substr(0, dot);
+}
+
+std::string ChangeExtension(const std::string& path, const std::string& extension) {
+  std::string ext = extension;
+  if (!ext.empty() && ext[0] == '.') ext.erase(0, 1);
+  std::string result = StripExtension(path);
+  if (!ext.empty()) result += "." + ext;
+  return result;
+}
+
+std::string BaseName(const std::string& path) { return ChangeExtension(StripPath(path), ""); }
+
+std::string Trim(const std::string& text) {
+  const size_t first = text.find_first_not_of(' ');
+  if (first == std::string::npos) return std::string();
+  const size_t last = text.find_last_not_of(' ');
+  return text.substr(first, last - first + 1);
+}
+
+}  // namespace jeerbox

@@ -1,0 +1,28 @@
+// File existence, whole-file reading and the path string helpers. Paths use
+// the backslash as their only separator; the file system unit translates.
+#pragma once
+
+#include <string>
+
+namespace jeerbox {
+
+bool FileExists(const std::string& path);
+
+// The file's bytes, one character per byte, or "" when it is missing or
+// can't be read.
+std::string ReadWholeFile(const std::string& path);
+
+// The part behind the last "\"; the path itself if there is none.
+std::string StripPath(const std::string& path);
+// The part in front of the last "."; the path itself if there is none.
+std::string StripExtension(const std::string& path);
+// StripExtension, then "." and the extension unless it is empty. One leading
+// "." of the extension is dropped first, so "mp3" and ".mp3" agree.
+std::string ChangeExtension(const std::string& path, const std::string& extension);
+// The file name with neither directory nor extension.
+std::string BaseName(const std::string& path);
+
+// Removes blanks (0x20) from both ends, and nothing else.
+std::string Trim(const std::string& text);
+
+}  // namespace jeerbox

@@ -1,0 +1,75 @@
+// Random lines by key from the scrambled, numbered text files under
+// System\. One generator lives for one request; it reads each file once and
+// keeps each key's line list in its cache.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text/CFileCache.h"
+#include "text/CGame.h"
+#include "text/IItemCacheProvider.h"
+
+namespace jeerbox {
+
+// A key's data lines, still scrambled. They point into file contents the
+// generator owns, so they hold as long as the generator.
+using LineList = std::vector<std::string_view>;
+
+// What a pick yields when the key's files or lines are missing.
+constexpr const char* kMissingFilesText = "## System files missing - please reinstall ##";
+
+// The highest file number of a family.
+constexpr int kMaxFileNumber = 999;
+
+class CTextGenerator : public IItemCacheProvider<LineList> {
+ public:
+  CTextGenerator();
+  CTextGenerator(const CTextGenerator&) = delete;
+  CTextGenerator& operator=(const CTextGenerator&) = delete;
+
+  // Takes the named token values from the game; null leaves them empty.
+  void Setup(const CGame* game);
+
+  // A random line of the key, unscrambled, expanded and trimmed.
+  std::string GetText(const std::string& key);
+
+  // The key's data lines over all files of its family, in file order; never
+  // empty: a single "" stands for "nothing found".
+  LineList GetCacheItem(const std::string& requestedId) override;
+
+  // gAppPath\System\<prefix>.<nnn>, the prefix being the key up to its first
+  // hyphen. A key without a hyphen is a family of its own name.
+  static std::string BuildTextFileName(const std::string& key, int number);
+
+ private:
+  struct TextFile {
+    bool exists = false;
+    bool allowed = false;
+    std::string bytes;
+  };
+
+  void Class_Initialize();
+  std::string PickText(const std::string& key);
+  // The file as read once for this generator.
+  const TextFile& File(const std::string& fileName);
+  bool IsFileAllowed(const std::string& fileName);
+  std::string_view ReadSection(std::string_view section, const std::string& fileName);
+
+  std::string mPlayerName;
+  std::string mCityName;
+  std::string mRatingName;
+  std::string mWeaponName;
+  // Declared before the cache: the cached lines point into these files.
+  std::map<std::string, std::unique_ptr<TextFile>> mFiles;
+  CFileCache<LineList> mCache;
+};
+
+// Appends the data lines of a section's raw text to `lines`: pieces split at
+// CR LF that are neither blank, nor a lone CR, nor begin with ";".
+void AppendDataLines(std::string_view sectionText, LineList* lines);
+
+}  // namespace jeerbox
