@@ -2,10 +2,8 @@
 // family once: a sentence reads its family's files once per generator.
 #include <benchmark/benchmark.h>
 
-#include <map>
-
 #include "bench_data.h"
-#include "platform/file_system.h"
+#include "platform/memory_file_system.h"
 #include "compose/MJeerbox.h"
 #include "platform/random.h"
 #include "support/MSimpleIO.h"
@@ -51,34 +49,20 @@ void BM_ReadFamilyOnce(benchmark::State& state) {
 BENCHMARK(BM_ReadFamilyOnce);
 
 // The same with the files held in memory: the composer's own share.
-class MemoryFileSystem : public IFileSystem {
- public:
-  bool FileExists(const std::string& path) override { return mFiles.count(path) > 0; }
-  FileStatus ReadFile(const std::string& path, std::string* contents) override {
-    auto it = mFiles.find(path);
-    if (it == mFiles.end()) return FileStatus::kNotFound;
-    *contents = it->second;
-    return FileStatus::kOk;
-  }
-  bool ReplaceFile(const std::string&, const std::string&) override { return false; }
-  void Load(const std::string& path) { mFiles[path] = ReadWholeFile(path); }
-
- private:
-  std::map<std::string, std::string> mFiles;
-};
-
 void BM_GenerateInsultInMemory(benchmark::State& state) {
   Data();
   MemoryFileSystem memory;
   for (const char* key : {"Misc-X", "General-X"})
-    for (int n = 1; n <= 2; ++n) memory.Load(CTextGenerator::BuildTextFileName(key, n));
-  IFileSystem* previous = SetFileSystem(&memory);
+    for (int n = 1; n <= 2; ++n) {
+      const std::string path = CTextGenerator::BuildTextFileName(key, n);
+      memory.Write(path, ReadWholeFile(path));
+    }
+  ScopedFileSystem scoped(&memory);
   SeedRandom(1);
   for (auto _ : state) {
     std::string sentence = GenerateInsult();
     benchmark::DoNotOptimize(sentence);
   }
-  SetFileSystem(previous);
   state.counters["sentences/s"] = benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 BENCHMARK(BM_GenerateInsultInMemory);
