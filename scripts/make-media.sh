@@ -8,6 +8,8 @@ out="$(cd "$(dirname "$0")/.." && pwd)/data/media"
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$out"
+# Repeatable runs and no dither noise: the same script gives the same bytes.
+export SOX_OPTS="-R -D"
 
 for tool in espeak-ng sox; do
   command -v "$tool" >/dev/null || { echo "make-media: $tool is missing (apt-get install espeak-ng sox libsox-fmt-mp3)" >&2; exit 1; }
