@@ -348,3 +348,30 @@ TEST_F(SdlAudioTest, LaughFromTheMediaDirectoryReachesTheOutput) {
 
 }  // namespace
 }  // namespace jeerbox
+
+namespace jeerbox {
+namespace {
+
+// Media files a user can break: not audio, empty, or named mp3 while
+// holding a WAV. A bad file loads nothing; the next good one still plays.
+TEST_F(SdlAudioTest, BadMediaFilesLoadNothingAndDontStopTheNextSound) {
+  SdlAudioControl control;
+  ASSERT_TRUE(control.OpenMixer(0, 44100, false, false));
+  mDir.Write("text.wav", "this is not a sound at all\n");
+  mDir.Write("empty.mp3", "");
+  mDir.Write("noise.mp3", std::string(3000, '\x55'));
+  mDir.Write("wave.mp3", ToneWav(0.3));
+  ASSERT_TRUE(control.SetChannel(2));
+  EXPECT_FALSE(control.LoadChannel(mDir.Path() + "\\text.wav"));
+  EXPECT_FALSE(control.LoadChannel(mDir.Path() + "\\empty.mp3"));
+  EXPECT_FALSE(control.LoadChannel(mDir.Path() + "\\noise.mp3"));
+  EXPECT_FALSE(control.PlayChannel(false));  // nothing loaded
+  // Decoding goes by content, not by name.
+  EXPECT_TRUE(control.LoadChannel(mDir.Path() + "\\wave.mp3"));
+  EXPECT_TRUE(control.PlayChannel(false));
+  WaitForQuiet();
+  EXPECT_GT(Written().peak, 3000);
+}
+
+}  // namespace
+}  // namespace jeerbox
