@@ -36,6 +36,10 @@ namespace {
 
 constexpr size_t kExamples = 3;
 
+std::string Count(int n, const std::string& thing) {
+  return std::to_string(n) + " " + thing + (n == 1 ? "" : "s");
+}
+
 // Findings of one kind on a key's lines, with a few of the lines as examples.
 class LineFindings {
  public:
@@ -46,7 +50,7 @@ class LineFindings {
   }
   void AppendTo(std::vector<std::string>* problems) const {
     for (const auto& [what, finding] : mFindings) {
-      std::string text = std::to_string(finding.count) + (finding.count == 1 ? " line " : " lines ") + what + ":";
+      std::string text = Count(finding.count, "line") + " " + what + ":";
       for (const std::string& example : finding.examples) text += " \"" + example + "\"";
       if (finding.count > static_cast<int>(finding.examples.size())) text += " ...";
       problems->push_back(text);
@@ -149,15 +153,17 @@ void ScanFile(const std::string& name, const std::string& bytes, FamilyScan* sca
       else
         ++scan->filesPerKey[current];
     } else if (!line.empty() && line.find_first_not_of(' ') == std::string_view::npos) {
-      if (!current.empty()) ++scan->droppedPerKey[current];
+      // Right in front of a head the blanks carry the CR and are read.
+      const bool beforeHead = i + 1 < lines.size() && !lines[i + 1].empty() && lines[i + 1].front() == '[';
+      if (!current.empty() && !beforeHead) ++scan->droppedPerKey[current];
     } else if (current.empty() && !line.empty() && line.front() != ';' &&
                line != SimpleCrypt("<XT>")) {
       ++ignored;
     }
   }
   if (ignored > 0)
-    family->problems.push_back(name + ": " + std::to_string(ignored) +
-                               " data lines in front of the first head, never read");
+    family->problems.push_back(name + ": " + Count(ignored, "data line") +
+                               " in front of the first head, never read");
 }
 
 FamilyReport CheckFamily(const std::string& family, const std::set<int>& present, FamilyScan* scan) {
@@ -181,16 +187,24 @@ FamilyReport CheckFamily(const std::string& family, const std::set<int>& present
   return report;
 }
 
+// A data line right in front of a head keeps the CR of its line end: its
+// stored form ends in CR and the LF follows it in the file. The line points
+// into the file bytes the generator holds, which end in a NUL, so the byte
+// behind it can always be read.
+bool CarriesLineEndCr(std::string_view stored) {
+  return !stored.empty() && stored.back() == '\r' && stored.data()[stored.size()] == '\n';
+}
+
 void CheckLines(const LineList& lines, KeyReport* report, std::map<std::string, std::set<std::string>>* reaches) {
   LineFindings findings;
   std::set<std::string> texts;
   for (std::string_view stored : lines) {
     const std::string text = SimpleCrypt(stored);
     texts.insert(text);
-    if (!text.empty() && text.back() == '\r') findings.Add("carry a trailing CR (a data line right in front of a head)", text);
-    if (Trim(text).empty()) findings.Add("read as nothing", text);
+    if (CarriesLineEndCr(stored)) findings.Add("with a trailing CR (a data line right in front of a head)", text);
+    if (Trim(text).empty()) findings.Add("reading as nothing", text);
     for (const std::string& token : Tokens(text)) {
-      if (!KnownTokens().count(token)) findings.Add("hold a token that names no key (" + token + ")", text);
+      if (!KnownTokens().count(token)) findings.Add("with a token that names no key (" + token + ")", text);
       for (const ShorthandToken& shorthand : kShorthandTokens)
         if (token == shorthand.token) (*reaches)[report->key].insert(shorthand.key);
     }
@@ -275,8 +289,8 @@ CheckReport CheckSystem() {
     }
     CheckLines(lines, &keyReport, &reaches);
     if (scan.droppedPerKey.count(key))
-      keyReport.problems.push_back(std::to_string(scan.droppedPerKey.at(key)) +
-                                   " stored lines of blanks, dropped by the reader");
+      keyReport.problems.push_back(Count(scan.droppedPerKey.at(key), "stored line") +
+                                   " of blanks, dropped by the reader");
     report.keys.push_back(std::move(keyReport));
   }
   for (KeyReport& keyReport : report.keys) {
