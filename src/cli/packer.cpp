@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <tuple>
 
 #include "text/MSimpleCrypto.h"
 
@@ -53,7 +54,9 @@ class SourcePacker {
   }
 
  private:
-  void Report(int line, const std::string& reason) { mDiagnostics->push_back({mFile, line, reason}); }
+  void Report(int line, const std::string& reason) {
+    mDiagnostics->push_back({mFile, line, reason});
+  }
 
   void Write(const std::string& bytes, int sourceLine, std::string what) {
     mWritten.push_back({mOut.size(), sourceLine, std::move(what)});
@@ -112,7 +115,8 @@ class SourcePacker {
     if (tally.file.empty()) tally = {tally.lines, mFile, line.number};
   }
 
-  void AddData(const SourceLine& line, std::map<std::string, KeyTally>* keyLines, PackStats* stats) {
+  void AddData(const SourceLine& line, std::map<std::string, KeyTally>* keyLines,
+               PackStats* stats) {
     if (mHeads.empty()) {
       Report(line.number, "a data line in front of the first head: the program never reads it");
       return;
@@ -167,8 +171,9 @@ void CheckNumbering(const std::map<std::string, std::map<int, std::string>>& fam
     for (const auto& [number, name] : files) {
       if (number != expected) {
         diagnostics->push_back(
-            {name, 0, "family " + family + " has no file " + PackedName(family, expected) +
-                          ".txt in front of this one; the program stops reading at the gap"});
+            {name, 0,
+             "family " + family + " has no file " + PackedName(family, expected) +
+                 ".txt in front of this one; the program stops reading at the gap"});
         break;
       }
       ++expected;
@@ -219,6 +224,10 @@ PackResult PackSources(const std::vector<NamedFile>& sources) {
              "key \"" + key + "\" has " + std::to_string(tally.lines) + " data lines over family " +
                  family + "; the reader takes at most " + std::to_string(kMaxLinesPerKey)});
   for (const auto& entry : families) result.families.push_back(entry.first);
+  std::stable_sort(result.diagnostics.begin(), result.diagnostics.end(),
+                   [](const Diagnostic& a, const Diagnostic& b) {
+                     return std::tie(a.file, a.line) < std::tie(b.file, b.line);
+                   });
   if (!result.diagnostics.empty()) {
     result.files.clear();
     result.stats.clear();
@@ -286,11 +295,12 @@ int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ost
   }
   for (size_t i = 0; i < result.files.size(); ++i) {
     const PackStats& stats = result.stats[i];
-    out << "  " << result.files[i].name << "  " << stats.keys << (stats.keys == 1 ? " key, " : " keys, ")
-        << stats.lines << (stats.lines == 1 ? " line" : " lines") << (stats.marked ? ", marked" : "")
-        << "\n";
+    out << "  " << result.files[i].name << "  " << stats.keys
+        << (stats.keys == 1 ? " key, " : " keys, ") << stats.lines
+        << (stats.lines == 1 ? " line" : " lines") << (stats.marked ? ", marked" : "") << "\n";
   }
-  for (const std::string& name : stale) out << "  " << name << "  removed: no source has it any more\n";
+  for (const std::string& name : stale)
+    out << "  " << name << "  removed: no source has it any more\n";
   out << "jeer pack: " << result.files.size() << (result.files.size() == 1 ? " file" : " files")
       << " written to " << systemDir << "\n";
   return 0;

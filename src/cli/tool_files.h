@@ -25,7 +25,6 @@ bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& 
                           std::string* error);
 
 // Removes dir/name for each name; false with a reason at the first failure.
-bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names,
-                 std::string* error);
+bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names, std::string* error);
 
 }  // namespace jeerbox

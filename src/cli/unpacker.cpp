@@ -21,9 +21,13 @@ std::vector<std::string_view> SplitCrLf(std::string_view bytes) {
   return lines;
 }
 
-bool IsHead(std::string_view line) { return line.size() >= 2 && line.front() == '[' && line.back() == ']'; }
+bool IsHead(std::string_view line) {
+  return line.size() >= 2 && line.front() == '[' && line.back() == ']';
+}
 
-bool HoldsLineEnd(std::string_view text) { return text.find_first_of("\r\n") != std::string_view::npos; }
+bool HoldsLineEnd(std::string_view text) {
+  return text.find_first_of("\r\n") != std::string_view::npos;
+}
 
 }  // namespace
 
@@ -42,13 +46,15 @@ std::string UnpackFile(const std::string& fileName, std::string_view bytes,
     };
     if (IsHead(line)) {
       const std::string key = SimpleCrypt(line.substr(1, line.size() - 2));
-      if (HoldsLineEnd(key)) diagnostics->push_back({fileName, number, "a key with a CR or LF in it"});
+      if (HoldsLineEnd(key))
+        diagnostics->push_back({fileName, number, "a key with a CR or LF in it"});
       emit("[" + key + "]");
       inSection = true;
     } else if (line.empty()) {
       emit("");
     } else if (line.find_first_not_of(' ') == std::string_view::npos) {
-      notes->push_back({fileName, number, "a line of blanks, which the reader drops: written empty"});
+      notes->push_back(
+          {fileName, number, "a line of blanks, which the reader drops: written empty"});
       emit("");
     } else if (line == ";" + marker || (!inSection && line == marker)) {
       emit(kMarkerDirective);
@@ -59,7 +65,8 @@ std::string UnpackFile(const std::string& fileName, std::string_view bytes,
     } else if (line.front() == '[') {
       diagnostics->push_back({fileName, number, "a line begins with \"[\" but isn't a head"});
     } else if (!inSection) {
-      notes->push_back({fileName, number, "a data line in front of the first head, never read: left out"});
+      notes->push_back(
+          {fileName, number, "a data line in front of the first head, never read: left out"});
     } else if (line == "\r") {
       notes->push_back({fileName, number, "a lone CR, which the reader drops: left out"});
     } else {
@@ -102,12 +109,15 @@ int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::o
   }
   for (const auto& [family, numbers] : families)
     if (*numbers.rbegin() != static_cast<int>(numbers.size()))
-      notes.push_back({family, 0, "the numbering has a gap; the program reads only the files in front of it"});
+      notes.push_back(
+          {family, 0, "the numbering has a gap; the program reads only the files in front of it"});
   if (sources.empty()) {
     err << "jeer unpack: no word-list files (FAMILY.NNN) in " << systemDir << "\n";
     return 1;
   }
-  for (const Diagnostic& note : notes) err << systemDir << "/" << note.file << (note.line ? ":" + std::to_string(note.line) : "") << ": note: " << note.reason << "\n";
+  for (const Diagnostic& note : notes)
+    err << systemDir << "/" << note.file << (note.line ? ":" + std::to_string(note.line) : "")
+        << ": note: " << note.reason << "\n";
   if (!diagnostics.empty()) {
     for (const Diagnostic& diagnostic : diagnostics)
       err << systemDir << "/" << diagnostic.ToString() << "\n";

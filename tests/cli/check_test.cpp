@@ -15,18 +15,30 @@ class CheckTest : public ::testing::Test {
  protected:
   // A clean set: every key the program asks for, a few lines each.
   CheckTest() {
-    misc.Section("Misc-Jeerbox-WhoSays").Line("Granny")
-        .Section("Misc-Jeerbox-Person").Line("you were one")
-        .Section("Misc-Jeerbox-HowBig").Lines({"great lump of a", "utter"})
-        .Section("Misc-Jeerbox-Adjective").Lines({"soggy", "odious", "{damp/dusty}"})
-        .Section("Misc-Jeerbox-Noun").Line("turnip")
-        .Section("Misc-Jeerbox-AndMore").Line("who smells of")
-        .Section("Misc-Jeerbox-Someone").Lines({"<RandomChar>", "a goat"});
-    general.Section("General-Insult").Line("a sock of <RandomChar>")
-        .Section("General-Curse").Line("Drat")
-        .Section("General-Exclaim").Line("Gosh")
-        .Section("General-AutoDealer").Line("a cart seller")
-        .Section("General-Character").Line("a cousin of <AutoDealer>");
+    misc.Section("Misc-Jeerbox-WhoSays")
+        .Line("Granny")
+        .Section("Misc-Jeerbox-Person")
+        .Line("you were one")
+        .Section("Misc-Jeerbox-HowBig")
+        .Lines({"great lump of a", "utter"})
+        .Section("Misc-Jeerbox-Adjective")
+        .Lines({"soggy", "odious", "{damp/dusty}"})
+        .Section("Misc-Jeerbox-Noun")
+        .Line("turnip")
+        .Section("Misc-Jeerbox-AndMore")
+        .Line("who smells of")
+        .Section("Misc-Jeerbox-Someone")
+        .Lines({"<RandomChar>", "a goat"});
+    general.Section("General-Insult")
+        .Line("a sock of <RandomChar>")
+        .Section("General-Curse")
+        .Line("Drat")
+        .Section("General-Exclaim")
+        .Line("Gosh")
+        .Section("General-AutoDealer")
+        .Line("a cart seller")
+        .Section("General-Character")
+        .Line("a cousin of <AutoDealer>");
   }
 
   CheckReport Check() {
@@ -81,8 +93,13 @@ TEST_F(CheckTest, CountsFilesAndMarkedFilesUpToTheGap) {
 
 TEST_F(CheckTest, TrailingCrDroppedLinesAndLinesOutsideSections) {
   ScrambledWriter file;
-  file.Line("stray").Section("Misc-Extra-Key").Line("x").Raw("   ").Blank()
-      .Raw("[" + SimpleCrypt("Misc-Jeerbox-Noun") + "]").Line("eel");
+  file.Line("stray")
+      .Section("Misc-Extra-Key")
+      .Line("x")
+      .Raw("   ")
+      .Blank()
+      .Raw("[" + SimpleCrypt("Misc-Jeerbox-Noun") + "]")
+      .Line("eel");
   misc.Line("last before the head");  // the Someone section ends here
   misc.Raw("[" + SimpleCrypt("Misc-Jeerbox-Noun2") + "]").Line("y");
   root.Write("System/Misc.002", file.Bytes());
@@ -90,11 +107,13 @@ TEST_F(CheckTest, TrailingCrDroppedLinesAndLinesOutsideSections) {
   EXPECT_TRUE(Mentions(Key(report, "Misc-Jeerbox-Someone").problems, "1 line with a trailing CR"));
   EXPECT_TRUE(Mentions(Key(report, "Misc-Extra-Key").problems, "1 stored line of blanks, dropped"));
   EXPECT_TRUE(Mentions(Key(report, "Misc-Extra-Key").problems, "never asks for this key"));
-  EXPECT_TRUE(Mentions(report.families[1].problems, "Misc.002: 1 data line in front of the first head"));
+  EXPECT_TRUE(
+      Mentions(report.families[1].problems, "Misc.002: 1 data line in front of the first head"));
 }
 
 TEST_F(CheckTest, TokensAndBraces) {
-  general.Section("General-Insult2").Lines({"a <Pirate> hat", "{a/b", "a}b", "x {} y", "{a{b}c}", "{a/}"});
+  general.Section("General-Insult2")
+      .Lines({"a <Pirate> hat", "{a/b", "a}b", "x {} y", "{a{b}c}", "{a/}"});
   const CheckReport report = Check();
   const std::vector<std::string>& problems = Key(report, "General-Insult2").problems;
   EXPECT_TRUE(Mentions(problems, "token that names no key (<Pirate>)"));

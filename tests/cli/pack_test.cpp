@@ -68,7 +68,8 @@ TEST(PackRefusals, EachNamesTheFileTheLineAndTheReason) {
     ASSERT_EQ(found.size(), 1u) << c.what;
     EXPECT_EQ(found[0].file, "Misc.001.txt") << c.what;
     EXPECT_EQ(found[0].line, c.line) << c.what << ": " << found[0].ToString();
-    EXPECT_NE(found[0].reason.find(c.reason), std::string::npos) << c.what << ": " << found[0].reason;
+    EXPECT_NE(found[0].reason.find(c.reason), std::string::npos)
+        << c.what << ": " << found[0].reason;
   }
 }
 
@@ -135,9 +136,10 @@ TEST(PackRoundTrip, UnpackGivesBackCanonicalSourcesByteForByte) {
 TEST(PackRoundTrip, TheProgramReadsEachDataLineAsWritten) {
   TempDir root;
   root.Write("System/Misc.001", Pack(kCanonical));
-  EXPECT_EQ(ReadList(root.Path(), "Misc-Jeerbox-Noun"),
-            (std::vector<std::string>{"turnip", "caf\xe9 owner", ";semicolon first", "[bracket first",
-                                      "@at first", "\\backslash first", "{soggy/damp} <Insult>"}));
+  EXPECT_EQ(
+      ReadList(root.Path(), "Misc-Jeerbox-Noun"),
+      (std::vector<std::string>{"turnip", "caf\xe9 owner", ";semicolon first", "[bracket first",
+                                "@at first", "\\backslash first", "{soggy/damp} <Insult>"}));
   EXPECT_EQ(ReadList(root.Path(), "Misc-Jeerbox-Adjective"), std::vector<std::string>{"odious"});
 }
 
@@ -158,9 +160,11 @@ TEST(PackRoundTrip, UnpackThenPackReadsTheSameLists) {
   ScrambledWriter file;
   file.Marker()
       .Comment("made by hand")
-      .Section("Misc-A").Lines({"alpha", ";not a comment", "  padded  "})
+      .Section("Misc-A")
+      .Lines({"alpha", ";not a comment", "  padded  "})
       .Raw("   ")
-      .Section("Misc-B").Lines({"beta", "gamma"})
+      .Section("Misc-B")
+      .Lines({"beta", "gamma"})
       .NoFinalLineEnd();
   TempDir before, after;
   before.Write("System/Misc.001", file.Bytes());
@@ -171,7 +175,8 @@ TEST(PackRoundTrip, UnpackThenPackReadsTheSameLists) {
   after.Write("System/Misc.001", Pack(source));
   for (const char* key : {"Misc-A", "Misc-B"})
     EXPECT_EQ(ReadList(before.Path(), key), ReadList(after.Path(), key)) << key;
-  EXPECT_NE(DirContents(after.Path() + "/System")["Misc.001"].find(SimpleCrypt("<XT>")), std::string::npos);
+  EXPECT_NE(DirContents(after.Path() + "/System")["Misc.001"].find(SimpleCrypt("<XT>")),
+            std::string::npos);
 }
 
 TEST(Unpack, RefusesWhatASourceCannotHold) {

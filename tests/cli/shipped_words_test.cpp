@@ -26,7 +26,8 @@ std::vector<std::string> Expansions(const std::string& line) {
   size_t start = 0;
   for (;;) {
     const size_t slash = inner.find('/', start);
-    const std::string option = inner.substr(start, slash == std::string::npos ? slash : slash - start);
+    const std::string option =
+        inner.substr(start, slash == std::string::npos ? slash : slash - start);
     for (std::string& rest : Expansions(line.substr(close + 1)))
       out.push_back(line.substr(0, open) + option + rest);
     if (slash == std::string::npos) break;
@@ -45,7 +46,8 @@ class ShippedWords : public ::testing::Test {
     for (const std::string& name : names) {
       if (name.size() < 4 || name.substr(name.size() - 4) != ".txt") continue;
       sources.push_back({name, ""});
-      ASSERT_TRUE(ReadFileBytes(std::string(WORDS_DIR) + "/" + name, &sources.back().bytes, &error));
+      ASSERT_TRUE(
+          ReadFileBytes(std::string(WORDS_DIR) + "/" + name, &sources.back().bytes, &error));
     }
     sResult = new PackResult(PackSources(sources));
     sRoot = new TempDir;
@@ -55,7 +57,9 @@ class ShippedWords : public ::testing::Test {
     delete sRoot;
     delete sResult;
   }
-  static std::vector<std::string> List(const std::string& key) { return ReadList(sRoot->Path(), key); }
+  static std::vector<std::string> List(const std::string& key) {
+    return ReadList(sRoot->Path(), key);
+  }
 
   static PackResult* sResult;
   static TempDir* sRoot;
@@ -94,7 +98,8 @@ TEST_F(ShippedWords, EveryListIsBigEnoughAndTheTemplatesAreUsed) {
 // a vowel sounded like "you" or "won", or with a silent h, would read
 // wrongly behind "a" or "an".
 TEST_F(ShippedWords, NounsAndAdjectivesSuitTheArticleRuleAndCapitals) {
-  const char* badStarts[] = {"eu", "ewe", "one", "once", "uni", "use", "usu", "ur", "uk", "hour", "honest", "honou", "heir"};
+  const char* badStarts[] = {"eu", "ewe", "one",  "once",   "uni",   "use", "usu",
+                             "ur", "uk",  "hour", "honest", "honou", "heir"};
   for (const char* key : {"Misc-Jeerbox-Noun", "Misc-Jeerbox-Adjective"}) {
     for (const std::string& line : List(key)) {
       for (const std::string& text : Expansions(line)) {
