@@ -21,10 +21,14 @@ constexpr const char* kPackHelp =
     "  ; anything           a comment, kept as it is\n"
     "  (empty line)         kept\n"
     "  @marked              makes the file a marked one\n"
-    "  \\[text              a data line beginning with ; [ @ or \\ : the \\ goes\n"
+    "  \\[text               a data line beginning with ; [ @ or \\ : the \\ goes\n"
     "Pack writes CR LF line ends and an empty line in front of each head that\n"
     "follows a data line. It refuses, with file:line: reason, whatever the\n"
-    "program would not read back as written, and then writes nothing.\n"
+    "program would not read back as written (a data line beginning with \"j\",\n"
+    "whose stored form begins with \";\", is the one most often met), and then\n"
+    "writes nothing. unpack gives sources back with LF line ends: a source in\n"
+    "that form, an empty line or comment in front of each later head, survives\n"
+    "pack then unpack byte for byte.\n"
     "Numbered files of a packed family that the sources no longer have are\n"
     "removed from SYSTEM_DIR; other files there are left alone.";
 
