@@ -233,8 +233,8 @@ void CheckLines(const LineList& lines, KeyReport* report,
   }
 }
 
-// The keys a key can reach through its tokens, on a shortest path back to
-// itself, or empty when it can't come back to itself.
+// A shortest chain of tokens that leads from the key back to itself, as
+// the keys on the way, or empty when none does.
 std::vector<std::string> CycleThrough(const std::string& key,
                                       const std::map<std::string, std::set<std::string>>& reaches) {
   std::map<std::string, std::string> parent;
