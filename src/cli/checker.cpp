@@ -294,7 +294,7 @@ CheckReport CheckSystem() {
     keyReport.files = scan.filesPerKey.count(key) ? scan.filesPerKey.at(key) : 0;
     LineList lines = generator.GetCacheItem(key);
     if (lines.size() == 1 && lines[0].empty()) {
-      lines.clear();
+      lines = LineList();
       keyReport.problems.push_back(std::string("no lines: the program would say \"") +
                                    kMissingFilesText + "\"");
     }
