@@ -30,7 +30,7 @@ clean:
 # Each libFuzzer target for FUZZ_SECONDS (default 60) on a scratch copy of
 # its corpus; fails on a crash, a leak, a slow input or too much memory.
 FUZZ_SECONDS ?= 60
-FUZZ_TARGETS = text_store tokens profile
+FUZZ_TARGETS = text_store tokens profile pack
 .PHONY: fuzz
 fuzz: deps
 	@cmake --preset fuzz >/dev/null
