@@ -3,7 +3,7 @@
 PRESET ?= default
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps build run test test-asan clean
+.PHONY: all deps build run test test-asan lint clean
 
 all: build
 
@@ -23,6 +23,10 @@ test: build
 
 test-asan: deps
 	@scripts/test.sh asan
+
+# clang-format and clang-tidy over the whole tree (also part of make test).
+lint: build
+	@scripts/lint.sh build/$(PRESET)
 
 clean:
 	rm -rf build
