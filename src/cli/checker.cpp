@@ -225,7 +225,7 @@ void CheckLines(const LineList& lines, KeyReport* report,
   const auto program = std::find_if(kProgramKeys.begin(), kProgramKeys.end(),
                                     [&](const ProgramKey& key) { return key.key == report->key; });
   if (program == kProgramKeys.end()) {
-    report->problems.push_back("the program never asks for this key");
+    report->problems.emplace_back("the program never asks for this key");
   } else if (!lines.empty() && program->minimum > 1 && SideBySide(texts) < program->minimum) {
     report->problems.push_back("only " + std::to_string(SideBySide(texts)) +
                                " texts that don't contain one another; the composer wants " +

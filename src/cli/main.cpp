@@ -1,12 +1,15 @@
 // jeer: composes sentences in a terminal and looks after the word-list files.
 #include <cstdio>
+#include <exception>
 #include <iostream>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+int Run(int argc, char** argv) {
   CLI::App app{
       "jeer composes Jeerbox sentences in a terminal and packs, unpacks and checks\n"
       "the scrambled word-list files in System/.",
@@ -29,4 +32,19 @@ int main(int argc, char** argv) {
   }
   std::fflush(stdout);
   return exitCode;
+}
+
+}  // namespace
+
+// Nothing the commands do should throw; if something does (memory, say),
+// the user gets a line saying so rather than an abort.
+int main(int argc, char** argv) {
+  try {
+    return Run(argc, argv);
+  } catch (const std::exception& e) {
+    std::cerr << "jeer: " << e.what() << "\n";
+  } catch (...) {
+    std::cerr << "jeer: unexpected failure\n";
+  }
+  return jeerbox::kExitProblem;
 }

@@ -26,7 +26,7 @@ std::string Pack(const std::string& source, const std::string& name = "Misc.001.
 
 std::string Unpack(const std::string& packed) {
   std::vector<Diagnostic> diagnostics, notes;
-  const std::string source = UnpackFile("Misc.001", packed, &diagnostics, &notes);
+  std::string source = UnpackFile("Misc.001", packed, &diagnostics, &notes);
   EXPECT_TRUE(diagnostics.empty()) << diagnostics.front().ToString();
   return source;
 }

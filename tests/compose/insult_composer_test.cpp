@@ -56,7 +56,7 @@ class ComposerTest : public TextStoreTest {
     draws.insert(draws.end(), {0, 0, 0, tail, shape});
     for (float d : draws) random.Push(d);
     const int before = random.Draws();
-    const std::string sentence = GenerateInsult();
+    std::string sentence = GenerateInsult();
     EXPECT_EQ(random.Draws() - before, static_cast<int>(draws.size()));
     return sentence;
   }

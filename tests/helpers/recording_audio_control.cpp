@@ -33,7 +33,7 @@ std::vector<std::string> SweepCalls() {
   std::vector<std::string> calls;
   for (int channel = 1; channel <= 32; ++channel) {
     calls.push_back("Channel=" + std::to_string(channel));
-    calls.push_back("StopChannel");
+    calls.emplace_back("StopChannel");
   }
   return calls;
 }
