@@ -9,6 +9,7 @@ packages=(
   qt6-base-dev libsdl2-mixer-dev libcurl4-openssl-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev
   xvfb xauth xdotool xclip
+  fonts-wine imagemagick librsvg2-bin
 )
 [ $# -gt 0 ] && packages+=("$@")
 
