@@ -15,6 +15,9 @@ class IFileSystem {
   virtual bool FileExists(const std::string& path) = 0;
   // Reads the whole file as bytes into *contents (cleared on failure).
   virtual FileStatus ReadFile(const std::string& path, std::string* contents) = 0;
+  // Replaces the file as a whole: readers see the old or the new contents,
+  // never a mix. False when it can't be written.
+  virtual bool ReplaceFile(const std::string& path, const std::string& contents) = 0;
 };
 
 // POSIX: "\" becomes "/", nothing else changes.
@@ -22,6 +25,7 @@ class RealFileSystem : public IFileSystem {
  public:
   bool FileExists(const std::string& path) override;
   FileStatus ReadFile(const std::string& path, std::string* contents) override;
+  bool ReplaceFile(const std::string& path, const std::string& contents) override;
 };
 
 std::string NativePath(const std::string& path);

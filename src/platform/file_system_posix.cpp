@@ -4,6 +4,8 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 
 #include "platform/file_system.h"
 
@@ -53,6 +55,27 @@ FileStatus RealFileSystem::ReadFile(const std::string& path, std::string* conten
   close(fd);
   if (!ok) contents->clear();
   return ok ? FileStatus::kOk : FileStatus::kError;
+}
+
+// Written beside the target, flushed, then renamed over it.
+bool RealFileSystem::ReplaceFile(const std::string& path, const std::string& contents) {
+  const std::string target = NativePath(path);
+  std::string temp = target + ".XXXXXX";
+  const int fd = mkstemp(temp.data());
+  if (fd < 0) return false;
+  size_t done = 0;
+  bool ok = true;
+  while (ok && done < contents.size()) {
+    const ssize_t n = write(fd, contents.data() + done, contents.size() - done);
+    if (n < 0 && errno == EINTR) continue;
+    ok = n > 0;
+    if (ok) done += static_cast<size_t>(n);
+  }
+  ok = ok && fchmod(fd, 0644) == 0 && fsync(fd) == 0;
+  ok = close(fd) == 0 && ok;
+  ok = ok && rename(temp.c_str(), target.c_str()) == 0;
+  if (!ok) unlink(temp.c_str());
+  return ok;
 }
 
 IFileSystem& CurrentFileSystem() {

@@ -22,6 +22,18 @@ FileStatus FakeFileSystem::ReadFile(const std::string& path, std::string* conten
   return FileStatus::kOk;
 }
 
+bool FakeFileSystem::ReplaceFile(const std::string& path, const std::string& contents) {
+  mTouched.push_back(path);
+  if (mUnreadable.count(path)) return false;
+  mFiles[path] = contents;
+  return true;
+}
+
+std::string FakeFileSystem::Contents(const std::string& path) const {
+  auto it = mFiles.find(path);
+  return it == mFiles.end() ? std::string() : it->second;
+}
+
 int FakeFileSystem::Reads(const std::string& path) const {
   auto it = mReads.find(path);
   return it == mReads.end() ? 0 : it->second;

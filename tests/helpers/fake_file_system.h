@@ -23,6 +23,9 @@ class FakeFileSystem : public IFileSystem {
 
   bool FileExists(const std::string& path) override;
   FileStatus ReadFile(const std::string& path, std::string* contents) override;
+  bool ReplaceFile(const std::string& path, const std::string& contents) override;
+  // The file's contents, or "" when it doesn't exist.
+  std::string Contents(const std::string& path) const;
 
   int Reads(const std::string& path) const;
   // Every path asked about, read or probed, in order.

@@ -1,0 +1,35 @@
+// Named string settings in the settings file UserInfo\Tallowick.cfg,
+// section "TW". Every reading problem ends in the caller's default.
+#pragma once
+
+#include <string>
+
+namespace jeerbox {
+
+class CSettings {
+ public:
+  CSettings();
+
+  // The setting's text, or `defaultValue` when it is missing or empty.
+  std::string ReadSetting(const std::string& settingName, const std::string& defaultValue) const;
+  std::string ReadSetting(const std::string& settingName, bool defaultValue) const;
+  void WriteSetting(const std::string& settingName, const std::string& settingValue) const;
+  static std::string ReadGeneralSetting(const std::string& configFileName, const std::string& section,
+                                        const std::string& settingName, const std::string& defaultValue);
+
+  const std::string& ConfigFile() const { return mConfigFile; }
+
+ private:
+  void Class_Initialize();
+
+  std::string mConfigFile;
+};
+
+// The text of a Boolean as a setting holds it: "True" or "False".
+std::string BooleanText(bool value);
+
+// "true"/"false" in any case, or a number (0 is false, any other true).
+// Any other text gives `fallback`, so a garbled file never stops the program.
+bool SettingToBoolean(const std::string& text, bool fallback);
+
+}  // namespace jeerbox
