@@ -1,0 +1,29 @@
+// The instance lock on QLocalServer. Linux's abstract socket names are
+// per network namespace, not per user, hence the uid in the name.
+#include <unistd.h>
+
+#include <QLocalServer>
+
+#include "platform/previous_instance.h"
+
+namespace jeerbox {
+
+LocalSocketInstanceLock::LocalSocketInstanceLock(const std::string& name)
+    : mSocketName(name + "-" + std::to_string(getuid())) {}
+
+LocalSocketInstanceLock::~LocalSocketInstanceLock() = default;
+
+bool LocalSocketInstanceLock::PrevInstance() {
+  if (mServer) return false;
+  auto server = std::make_unique<QLocalServer>();
+  server->setSocketOptions(QLocalServer::AbstractNamespaceOption);
+  if (!server->listen(QString::fromStdString(mSocketName))) {
+    // Only a name in use means another copy; any other failure lets the
+    // program start rather than lock the user out.
+    return server->serverError() == QAbstractSocket::AddressInUseError;
+  }
+  mServer = std::move(server);
+  return false;
+}
+
+}  // namespace jeerbox
