@@ -172,13 +172,14 @@ void FJeerbox::Setup() {
   UpdateButtons();
 }
 
+// Centred once shown, when the frame the window manager adds is known.
 void FJeerbox::Start() {
+  show();
   if (QScreen* screen = QGuiApplication::primaryScreen()) {
-    QRect frame(QPoint(), size());
+    QRect frame = frameGeometry();
     frame.moveCenter(screen->availableGeometry().center());
     move(frame.topLeft());
   }
-  show();
   cmdInsult->setFocus();
 }
 

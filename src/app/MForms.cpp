@@ -64,8 +64,11 @@ void ShowMainForm() {
 FJeerbox* MainForm() { return MainFormSlot().get(); }
 
 void ReleaseForms() {
-  MainFormSlot().reset();
+  for (FormId id : LoadedForms()) {
+    if (FormName(id) != "FJeerbox") UnloadForm(id);
+  }
   List().forms.clear();
+  MainFormSlot().reset();
 }
 
 }  // namespace jeerbox

@@ -26,8 +26,8 @@ std::string FormName(FormId id);  // "" for a form no longer loaded
 void ShowMainForm();
 // The main form; null until ShowMainForm made it.
 FJeerbox* MainForm();
-// Destroys the main form (after the event loop, or between tests). Forms
-// still loaded are forgotten.
+// At the very end (after the event loop, or between tests): unloads the
+// forms still loaded, then destroys the main form.
 void ReleaseForms();
 
 }  // namespace jeerbox

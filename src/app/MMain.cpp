@@ -29,7 +29,9 @@ void LoadAudioForm() {
   AudioForm() = std::make_unique<FDMC>(*Services().audioControl, *Services().waveDevices);
   gFDMC = AudioForm().get();
   LoadForm("FDMC", [] {
-    if (AudioForm()) AudioForm()->Form_Unload();
+    if (!AudioForm()) return;
+    AudioForm()->Form_Unload();
+    if (gFDMC == AudioForm().get()) gFDMC = nullptr;
     AudioForm().reset();
   });
 }
