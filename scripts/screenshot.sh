@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Takes a picture of the window under a private X server (Xvfb) into
-# docs/screenshot.png: the program as it starts, then after one "Insult me".
+# docs/screenshot.png: after one "Insult me" when the word lists are in
+# place beside the program, else as it starts.
 # Usage: scripts/screenshot.sh [BUILD_DIR] [OUTPUT]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -25,7 +26,9 @@ trap 'kill $pid 2>/dev/null || true; wait $pid 2>/dev/null || true; rm -rf "$run
 window=$(timeout 20 xdotool search --sync --onlyvisible --class jeerbox | head -n 1)
 [ -n "$window" ] || { echo "screenshot: the window didn't appear" >&2; exit 1; }
 xdotool windowactivate --sync "$window" 2>/dev/null || xdotool windowfocus --sync "$window"
-xdotool key --window "$window" Return  # presses "Insult me", the default button
+if [ -d "$dir/System" ]; then
+  xdotool key --window "$window" Return  # presses "Insult me", the default button
+fi
 sleep 1
 mkdir -p "$(dirname "$out")"
 import -window "$window" "$out"
