@@ -26,3 +26,14 @@ test-asan: deps
 
 clean:
 	rm -rf build
+
+# Each libFuzzer target for FUZZ_SECONDS (default 60) on a scratch copy of
+# its corpus; fails on a crash, a leak, a slow input or too much memory.
+FUZZ_SECONDS ?= 60
+FUZZ_TARGETS = text_store tokens profile
+.PHONY: fuzz
+fuzz: deps
+	@cmake --preset fuzz >/dev/null
+	@cmake --build --preset fuzz -j $(JOBS)
+	@for t in $(FUZZ_TARGETS); do echo "== fuzz_$$t ($(FUZZ_SECONDS) s)"; \
+	  scripts/fuzz.sh $(CURDIR)/build/fuzz/fuzz/fuzz_$$t fuzz/corpus/$$t $(FUZZ_SECONDS) || exit 1; done

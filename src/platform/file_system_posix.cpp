@@ -14,20 +14,21 @@ namespace {
 
 IFileSystem* gFileSystem = nullptr;
 
+// One read of size + 1 bytes normally ends it: a short read of a regular
+// file means end of file. A file that grew meanwhile is read on to its end.
 bool ReadAll(int fd, std::string* contents) {
   struct stat info {};
   if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) return false;
-  contents->resize(static_cast<size_t>(info.st_size));
+  const auto expected = static_cast<size_t>(info.st_size);
+  contents->resize(expected + 1);
   size_t done = 0;
-  // The size from fstat is a hint: a file that grows or shrinks while we
-  // read still comes back whole and consistent with what read() saw.
   for (;;) {
-    if (done == contents->size()) contents->resize(done + 4096);
     ssize_t n = read(fd, &(*contents)[done], contents->size() - done);
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) return false;
-    if (n == 0) break;
     done += static_cast<size_t>(n);
+    if (n == 0 || done == expected) break;
+    if (done == contents->size()) contents->resize(done + 4096);
   }
   contents->resize(done);
   return true;

@@ -1,9 +1,9 @@
 #include "support/CSettings.h"
 
 #include <cctype>
-#include <cstdlib>
 
 #include "platform/profile.h"
+#include "support/MSimpleIO.h"
 #include "support/globals.h"
 
 namespace jeerbox {
@@ -27,6 +27,10 @@ std::string CSettings::ReadSetting(const std::string& settingName, const std::st
   return ReadGeneralSetting(mConfigFile, kSection, settingName, defaultValue);
 }
 
+std::string CSettings::ReadSetting(const std::string& settingName, const char* defaultValue) const {
+  return ReadSetting(settingName, std::string(defaultValue));
+}
+
 std::string CSettings::ReadSetting(const std::string& settingName, bool defaultValue) const {
   return ReadSetting(settingName, BooleanText(defaultValue));
 }
@@ -45,17 +49,35 @@ std::string CSettings::ReadGeneralSetting(const std::string& configFileName, con
 
 std::string BooleanText(bool value) { return value ? "True" : "False"; }
 
+// A decimal number ("-1", "0.0", "2e3") is true unless every digit of its
+// mantissa is 0. Checked by hand: strtod would also take "nan", "inf" and
+// hex, and follows the locale's decimal point.
 bool SettingToBoolean(const std::string& text, bool fallback) {
-  const std::string word = Lower(text);
+  const std::string word = Lower(Trim(text));
   if (word == "true") return true;
   if (word == "false") return false;
-  const char* begin = text.c_str();
-  char* end = nullptr;
-  const double number = std::strtod(begin, &end);
-  if (end == begin) return fallback;
-  while (*end == ' ') ++end;
-  if (*end != '\0') return fallback;
-  return number != 0.0;
+  size_t at = (!word.empty() && (word[0] == '-' || word[0] == '+')) ? 1 : 0;
+  bool digits = false, nonZero = false, point = false;
+  for (; at < word.size(); ++at) {
+    const char c = word[at];
+    if (c >= '0' && c <= '9') {
+      digits = true;
+      nonZero = nonZero || c != '0';
+    } else if (c == '.' && !point) {
+      point = true;
+    } else {
+      break;
+    }
+  }
+  if (!digits) return fallback;
+  if (at < word.size() && word[at] == 'e') {
+    ++at;
+    if (at < word.size() && (word[at] == '-' || word[at] == '+')) ++at;
+    const size_t exponent = at;
+    while (at < word.size() && word[at] >= '0' && word[at] <= '9') ++at;
+    if (at == exponent) return fallback;
+  }
+  return at == word.size() ? nonZero : fallback;
 }
 
 }  // namespace jeerbox

@@ -12,6 +12,8 @@ class CSettings {
 
   // The setting's text, or `defaultValue` when it is missing or empty.
   std::string ReadSetting(const std::string& settingName, const std::string& defaultValue) const;
+  // Without it a string literal default would take the bool overload.
+  std::string ReadSetting(const std::string& settingName, const char* defaultValue) const;
   std::string ReadSetting(const std::string& settingName, bool defaultValue) const;
   void WriteSetting(const std::string& settingName, const std::string& settingValue) const;
   static std::string ReadGeneralSetting(const std::string& configFileName, const std::string& section,
@@ -28,7 +30,8 @@ class CSettings {
 // The text of a Boolean as a setting holds it: "True" or "False".
 std::string BooleanText(bool value);
 
-// "true"/"false" in any case, or a number (0 is false, any other true).
+// "true"/"false" in any case, or a decimal number (0 is false, any other
+// true), blanks around it allowed.
 // Any other text gives `fallback`, so a garbled file never stops the program.
 bool SettingToBoolean(const std::string& text, bool fallback);
 

@@ -6,12 +6,11 @@
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
 #include "text/CTextUtils.h"
+#include "text/find_bytes.h"
 #include "text/MSimpleCrypto.h"
 
 namespace jeerbox {
 namespace {
-
-bool IsBlank(std::string_view piece) { return piece.find_first_not_of(' ') == std::string_view::npos; }
 
 const std::string& ScrambledMarker() {
   static const std::string marker = SimpleCrypt("<XT>");
@@ -54,27 +53,13 @@ std::string CTextGenerator::PickText(const std::string& key) {
 LineList CTextGenerator::GetCacheItem(const std::string& requestedId) {
   const std::string section = SimpleCrypt(requestedId);
   LineList lines;
-  for (int n = 1; n <= kMaxFileNumber; ++n) {
-    const std::string fileName = BuildTextFileName(requestedId, n);
-    if (!File(fileName).exists) break;
-    if (IsFileAllowed(fileName)) AppendDataLines(ReadSection(section, fileName), &lines);
-  }
-  if (lines.empty()) lines.emplace_back();
+  for (const auto& file : FamilyOf(requestedId))
+    if (IsFileAllowed(*file)) AppendDataLines(CTextUtils::ReadSectionFromText(section, file->bytes), &lines);
+  lines.MarkNothingIfEmpty();
   return lines;
 }
 
-void AppendDataLines(std::string_view sectionText, LineList* lines) {
-  if (sectionText.empty()) return;
-  size_t start = 0;
-  for (;;) {
-    const size_t end = sectionText.find("\r\n", start);
-    const std::string_view piece =
-        sectionText.substr(start, end == std::string_view::npos ? std::string_view::npos : end - start);
-    if (!IsBlank(piece) && piece != "\r" && piece.front() != ';') lines->push_back(piece);
-    if (end == std::string_view::npos) break;
-    start = end + 2;
-  }
-}
+void AppendDataLines(std::string_view sectionText, LineList* lines) { lines->AppendSection(sectionText); }
 
 std::string CTextGenerator::BuildTextFileName(const std::string& key, int number) {
   const size_t hyphen = key.find('-');
@@ -84,25 +69,31 @@ std::string CTextGenerator::BuildTextFileName(const std::string& key, int number
   return gAppPath + "\\System\\" + prefix + "." + digits;
 }
 
-// Each file is read once per generator, however many keys ask for it: the
-// marker test and the section reads share the one copy. A file that exists
-// but can't be read counts as empty.
-const CTextGenerator::TextFile& CTextGenerator::File(const std::string& fileName) {
-  std::unique_ptr<TextFile>& slot = mFiles[fileName];
-  if (slot) return *slot;
-  slot = std::make_unique<TextFile>();
+const CTextGenerator::Family& CTextGenerator::FamilyOf(const std::string& key) {
+  const std::string fileName = BuildTextFileName(key, 1);
+  const std::string prefix = fileName.substr(0, fileName.size() - 3);
+  auto found = mFamilies.find(prefix);
+  if (found != mFamilies.end()) return found->second;
+  Family& family = mFamilies[prefix];
+  for (int n = 1; n <= kMaxFileNumber; ++n) {
+    auto file = std::make_unique<TextFile>();
+    if (!ReadTextFile(n == 1 ? fileName : BuildTextFileName(key, n), file.get())) break;
+    family.push_back(std::move(file));
+  }
+  return family;
+}
+
+// A file that exists but can't be read counts as empty: no marker, no
+// sections, and the scan goes on behind it.
+bool CTextGenerator::ReadTextFile(const std::string& fileName, TextFile* file) {
   IFileSystem& fs = CurrentFileSystem();
-  const FileStatus status = fs.ReadFile(fileName, &slot->bytes);
-  slot->exists = status == FileStatus::kOk || (status == FileStatus::kError && fs.FileExists(fileName));
-  if (status != FileStatus::kOk) slot->bytes.clear();
-  slot->allowed = slot->bytes.find(ScrambledMarker()) == std::string::npos || gAllowMarkedText;
-  return *slot;
+  const FileStatus status = fs.ReadFile(fileName, &file->bytes);
+  if (status == FileStatus::kNotFound || (status == FileStatus::kError && !fs.FileExists(fileName))) return false;
+  if (status != FileStatus::kOk) file->bytes.clear();
+  file->allowed = FindBytes(file->bytes, ScrambledMarker()) == std::string::npos || gAllowMarkedText;
+  return true;
 }
 
-bool CTextGenerator::IsFileAllowed(const std::string& fileName) { return File(fileName).allowed; }
-
-std::string_view CTextGenerator::ReadSection(std::string_view section, const std::string& fileName) {
-  return CTextUtils::ReadSectionFromText(section, File(fileName).bytes);
-}
+bool CTextGenerator::IsFileAllowed(const TextFile& file) { return file.allowed; }
 
 }  // namespace jeerbox

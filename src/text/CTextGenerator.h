@@ -12,12 +12,10 @@
 #include "text/CFileCache.h"
 #include "text/CGame.h"
 #include "text/IItemCacheProvider.h"
+#include "text/LineList.h"
 
 namespace jeerbox {
 
-// A key's data lines, still scrambled. They point into file contents the
-// generator owns, so they hold as long as the generator.
-using LineList = std::vector<std::string_view>;
 
 // What a pick yields when the key's files or lines are missing.
 constexpr const char* kMissingFilesText = "## System files missing - please reinstall ##";
@@ -38,7 +36,8 @@ class CTextGenerator : public IItemCacheProvider<LineList> {
   std::string GetText(const std::string& key);
 
   // The key's data lines over all files of its family, in file order; never
-  // empty: a single "" stands for "nothing found".
+  // empty: a single "" stands for "nothing found". The lines point into file
+  // contents the generator owns, so they hold as long as the generator.
   LineList GetCacheItem(const std::string& requestedId) override;
 
   // gAppPath\System\<prefix>.<nnn>, the prefix being the key up to its first
@@ -46,25 +45,29 @@ class CTextGenerator : public IItemCacheProvider<LineList> {
   static std::string BuildTextFileName(const std::string& key, int number);
 
  private:
+  // One numbered file as read for this generator: its bytes, and whether
+  // it may be used (a marked file only while marked text is allowed).
   struct TextFile {
-    bool exists = false;
     bool allowed = false;
     std::string bytes;
   };
+  using Family = std::vector<std::unique_ptr<TextFile>>;
 
   void Class_Initialize();
   std::string PickText(const std::string& key);
-  // The file as read once for this generator.
-  const TextFile& File(const std::string& fileName);
-  bool IsFileAllowed(const std::string& fileName);
-  std::string_view ReadSection(std::string_view section, const std::string& fileName);
+  // The key's family: its files from number 1 up to the first missing one,
+  // each read once per generator however many keys ask for it.
+  const Family& FamilyOf(const std::string& key);
+  // Reads the file; false when it doesn't exist.
+  static bool ReadTextFile(const std::string& fileName, TextFile* file);
+  static bool IsFileAllowed(const TextFile& file);
 
   std::string mPlayerName;
   std::string mCityName;
   std::string mRatingName;
   std::string mWeaponName;
   // Declared before the cache: the cached lines point into these files.
-  std::map<std::string, std::unique_ptr<TextFile>> mFiles;
+  std::map<std::string, Family> mFamilies;
   CFileCache<LineList> mCache;
 };
 

@@ -4,6 +4,7 @@
 #include "platform/random.h"
 #include "support/MSimpleIO.h"
 #include "text/MSimpleCrypto.h"
+#include "text/find_bytes.h"
 #include "text/shorthand.h"
 
 namespace jeerbox {
@@ -52,12 +53,12 @@ std::string CTextUtils::ReadSectionFromFile(const std::string& sectionName,
 // of its head, not tested) and ends with the CR of the next CR LF "[".
 std::string_view CTextUtils::ReadSectionFromText(std::string_view sectionName,
                                                  std::string_view fileText) {
-  const size_t match = fileText.find(sectionName);
+  const size_t match = FindBytes(fileText, sectionName);
   if (match == std::string_view::npos) return {};
   const size_t start = match + sectionName.size() + 1;
   if (start >= fileText.size()) return {};
   const std::string_view rest = fileText.substr(start);
-  const size_t end = rest.find("\r\n[");
+  const size_t end = FindHeadLineEnd(rest);
   return end == std::string_view::npos ? rest : rest.substr(0, end + 1);
 }
 

@@ -1,0 +1,57 @@
+#include "text/LineList.h"
+
+#include "text/line_split.h"
+
+namespace jeerbox {
+
+// The hot loop of a sentence: every section of the family passes here once
+// per generator. Most pieces are settled by their first byte.
+size_t LineList::CountDataLines(std::string_view text, std::vector<Checkpoint>* checkpoints) {
+  size_t count = 0;
+  ForEachCrLfPiece(text, [&](std::string_view piece) {
+    const char first = piece.empty() ? ';' : piece.front();
+    const bool data = first == ' ' || first == '\r' ? IsDataPiece(piece) : first != ';';
+    if (!data) return true;
+    if (count % kCheckpointLines == 0)
+      checkpoints->push_back({static_cast<uint32_t>(piece.data() - text.data()), static_cast<uint32_t>(count)});
+    ++count;
+    return true;
+  });
+  return count;
+}
+
+void LineList::AppendSection(std::string_view sectionText) {
+  if (sectionText.empty() || mNothing) return;
+  Segment segment;
+  segment.text = sectionText;
+  segment.first = mCount;
+  const size_t count = CountDataLines(sectionText, &segment.checkpoints);
+  if (count == 0) return;
+  mCount += count;
+  mSegments.push_back(std::move(segment));
+}
+
+void LineList::MarkNothingIfEmpty() {
+  if (mCount != 0) return;
+  mNothing = true;
+  mCount = 1;
+}
+
+std::string_view LineList::operator[](size_t index) const {
+  if (mNothing || index >= mCount) return {};
+  size_t s = mSegments.size() - 1;
+  while (mSegments[s].first > index) --s;
+  const Segment& segment = mSegments[s];
+  const size_t local = index - segment.first;
+  const Checkpoint* point = &segment.checkpoints[local / kCheckpointLines];
+  size_t skip = local - point->before;
+  std::string_view found;
+  ForEachCrLfPiece(segment.text.substr(point->offset), [&](std::string_view piece) {
+    if (!IsDataPiece(piece) || skip-- != 0) return true;
+    found = piece;
+    return false;
+  });
+  return found;
+}
+
+}  // namespace jeerbox

@@ -1,0 +1,78 @@
+// A key's data lines, still scrambled, over the sections of its family.
+// Lines are counted when a section is added and found again by index on
+// demand, from checkpoints every few lines: a pick needs one line of
+// thousands, and building every view would cost more than the pick.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <string_view>
+#include <vector>
+
+namespace jeerbox {
+
+// A piece of a section's split is a data line unless it is empty, a lone
+// CR, made of blanks only, or begins with ";".
+inline bool IsDataPiece(std::string_view piece) {
+  if (piece.empty() || piece.front() == ';' || piece == "\r") return false;
+  return piece.front() != ' ' || piece.find_first_not_of(' ') != std::string_view::npos;
+}
+
+class LineList {
+ public:
+  // Views point into the section texts, which must outlive the list.
+  void AppendSection(std::string_view sectionText);
+  // Ends an empty list with the one empty line that stands for "nothing".
+  void MarkNothingIfEmpty();
+
+  size_t size() const { return mCount; }
+  bool empty() const { return mCount == 0; }
+  std::string_view operator[](size_t index) const;
+
+  class const_iterator {
+   public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = std::string_view;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const std::string_view*;
+    using reference = std::string_view;
+
+    const_iterator(const LineList* list, size_t index) : mList(list), mIndex(index) {}
+    std::string_view operator*() const { return (*mList)[mIndex]; }
+    const_iterator& operator++() {
+      ++mIndex;
+      return *this;
+    }
+    bool operator==(const const_iterator& other) const { return mIndex == other.mIndex; }
+    bool operator!=(const const_iterator& other) const { return mIndex != other.mIndex; }
+
+   private:
+    const LineList* mList;
+    size_t mIndex;
+  };
+  const_iterator begin() const { return {this, 0}; }
+  const_iterator end() const { return {this, mCount}; }
+
+ private:
+  // A place to start looking for a line: the offset of data line number
+  // `before` of the section; one every kCheckpointLines lines.
+  static constexpr size_t kCheckpointLines = 32;
+  struct Checkpoint {
+    uint32_t offset;
+    uint32_t before;
+  };
+  struct Segment {
+    std::string_view text;
+    size_t first = 0;  // list index of its first data line
+    std::vector<Checkpoint> checkpoints;
+  };
+
+  static size_t CountDataLines(std::string_view text, std::vector<Checkpoint>* checkpoints);
+
+  std::vector<Segment> mSegments;
+  size_t mCount = 0;
+  bool mNothing = false;
+};
+
+}  // namespace jeerbox
