@@ -1,6 +1,7 @@
 // jeerbox: the window program. Everything but the choice of platform units
 // lies in jeerbox_app.
 #include <QApplication>
+#include <memory>
 
 #include "app/MForms.h"
 #include "app/MMain.h"
@@ -13,8 +14,7 @@
 #include "platform/previous_instance.h"
 #include "platform/process.h"
 #include "platform/shell.h"
-#include "platform/silent_audio_control.h"
-#include "platform/wave_devices.h"
+#include "platform/audio_sdl.h"
 
 // Under LeakSanitizer: libdbus, which Qt's X11 platform uses, keeps one
 // buffer to the end on purpose. Nothing calls this in a normal build.
@@ -32,9 +32,10 @@ int main(int argc, char* argv[]) {
   jeerbox::CurlInternet internet;
   jeerbox::QtShell shell;
   jeerbox::QtProcess process;
-  // Audio: silent until the mixer library is built in; swap both here.
-  jeerbox::SilentAudioControl audioControl;
-  jeerbox::FixedWaveDevices waveDevices(0);
+  // Audio on SDL2_mixer; with no sound device the audio form stays silent.
+  // (jeerbox::SilentAudioControl and FixedWaveDevices(0) are the stand-ins.)
+  const std::unique_ptr<jeerbox::IAudioControl> audioControl = jeerbox::CreateSdlAudioControl();
+  const std::unique_ptr<jeerbox::IWaveDevices> waveDevices = jeerbox::CreateSdlWaveDevices();
 
   jeerbox::AppServices services;
   services.previousInstance = &instanceLock;
@@ -43,8 +44,8 @@ int main(int argc, char* argv[]) {
   services.internet = &internet;
   services.shell = &shell;
   services.process = &process;
-  services.audioControl = &audioControl;
-  services.waveDevices = &waveDevices;
+  services.audioControl = audioControl.get();
+  services.waveDevices = waveDevices.get();
   jeerbox::SetServices(services);
 
   jeerbox::Main();

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # End to end on a private X server: the real jeerbox, driven with xdotool.
-# "Insult me", "Copy" and the clipboard (xclip); a second copy refused while
-# the first runs; the banner opening the sponsor through the desktop's URL
-# handler; a command line warned about; Escape ending the program; a killed
-# copy leaving no lock behind.
+# "Insult me" with its laugh, "Copy" and the clipboard (xclip); a second
+# copy refused while the first runs; the banner opening the sponsor through
+# the desktop's URL handler; a command line warned about; Escape ending the
+# program; a killed copy leaving no lock behind.
 # Usage: e2e_test.sh PROGRAM_DIR CAPTION SPONSOR_URL
 set -uo pipefail
 dir=$1 caption=$2 sponsor=$3
@@ -74,13 +74,28 @@ press() {  # press WINDOW KEY: the key, typed into the focused window
 }
 caption_re=$(printf '%s' "$caption" | sed 's/[.]/\\./g')
 
-# --- First copy: Insult me, Copy, the clipboard.
+nonzero_bytes() {  # nonzero_bytes FILE: how many bytes of FILE aren't 0
+  python3 -c 'import sys; d=open(sys.argv[1],"rb").read(); print(len(d)-d.count(0))' "$1" 2>/dev/null || echo 0
+}
+
+# --- First copy: Insult me (with a laugh), Copy, the clipboard. SDL's disk
+# driver stands in for a sound card and writes what is played to a file.
+export SDL_AUDIODRIVER=disk SDL_DISKAUDIOFILE="$work/audio.raw"
 start
 first=$pid
+unset SDL_AUDIODRIVER SDL_DISKAUDIOFILE
 main=$(window_named "$caption_re")
 [ -n "$main" ] || { echo "FAIL: the window '$caption' didn't appear (is another jeerbox running for this user?)"; cat "$work/jeerbox.log"; exit 1; }
 pass "window up"
+sleep 0.5
+silence=$(nonzero_bytes "$work/audio.raw")
 click_at "$main" 238 252   # Insult me
+sleep 1
+if [ -s "$work/audio.raw" ] && [ "$silence" -eq 0 ] && [ "$(nonzero_bytes "$work/audio.raw")" -gt 0 ]; then
+  pass "silent until Insult me, then a laugh"
+else
+  fail "audio: $silence non-zero bytes before the click, $(nonzero_bytes "$work/audio.raw") after"
+fi
 click_at "$main" 36 252    # Copy
 copied=$(timeout 5 xclip -o -selection clipboard 2>/dev/null)
 if [ -n "$copied" ] && [[ "$copied" != Click* ]]; then pass "copied a sentence: $copied"; else fail "clipboard holds '$copied'"; fi
