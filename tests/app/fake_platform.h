@@ -77,9 +77,9 @@ class FakePreviousInstance : public IPreviousInstance {
 };
 
 // Logs the calls that mark the audio form's steps: set-up, shutdown, unload.
-class RecordingAudioControl : public IAudioControl {
+class LoggingAudioControl : public IAudioControl {
  public:
-  explicit RecordingAudioControl(EventLog& log) : mLog(log) {}
+  explicit LoggingAudioControl(EventLog& log) : mLog(log) {}
   bool OpenMixer(int32_t, int32_t, bool, bool) override { return Log("OpenMixer"); }
   bool ResetMixer() override { return Log("ResetMixer"); }
   bool CloseMusic() override { return Log("CloseMusic"); }
@@ -120,7 +120,7 @@ class FakePlatform {
   RecordingShell shell;
   RecordingProcess process{log};
   FakePreviousInstance previousInstance;
-  RecordingAudioControl audioControl{log};
+  LoggingAudioControl audioControl{log};
   FixedWaveDevices waveDevices{1};
 
  private:
