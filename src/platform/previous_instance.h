@@ -1,6 +1,6 @@
-// Whether another copy of the program runs for this user. The lock is an
-// abstract-namespace local socket: nothing on disk, gone when the process
-// dies, however it dies.
+// Whether another copy of the program runs for this user on this display.
+// The lock is an abstract-namespace local socket: nothing on disk, gone when
+// the process dies, however it dies.
 #pragma once
 
 #include <memory>
@@ -20,7 +20,7 @@ class IPreviousInstance {
 
 class LocalSocketInstanceLock : public IPreviousInstance {
  public:
-  // `name` tells programs apart; the user's id is added to it.
+  // `name` tells programs apart; the user's id and the display are added.
   explicit LocalSocketInstanceLock(const std::string& name);
   ~LocalSocketInstanceLock() override;
 

@@ -1,15 +1,29 @@
 // The instance lock on QLocalServer. Linux's abstract socket names are
-// per network namespace, not per user, hence the uid in the name.
+// per network namespace, not per user, hence the uid in the name; the
+// display is in it too, so that each desktop session of a user (a remote
+// one, a private X server for tests) has a lock of its own.
 #include <unistd.h>
 
 #include <QLocalServer>
+#include <cstdlib>
 
 #include "platform/previous_instance.h"
 
 namespace jeerbox {
+namespace {
+
+std::string DisplaySession() {
+  for (const char* variable : {"WAYLAND_DISPLAY", "DISPLAY"}) {
+    const char* value = std::getenv(variable);
+    if (value && *value) return value;
+  }
+  return std::string();
+}
+
+}  // namespace
 
 LocalSocketInstanceLock::LocalSocketInstanceLock(const std::string& name)
-    : mSocketName(name + "-" + std::to_string(getuid())) {}
+    : mSocketName(name + "-" + std::to_string(getuid()) + "-" + DisplaySession()) {}
 
 LocalSocketInstanceLock::~LocalSocketInstanceLock() = default;
 

@@ -85,7 +85,7 @@ start
 first=$pid
 unset SDL_AUDIODRIVER SDL_DISKAUDIOFILE
 main=$(window_named "$caption_re")
-[ -n "$main" ] || { echo "FAIL: the window '$caption' didn't appear (is another jeerbox running for this user?)"; cat "$work/jeerbox.log"; exit 1; }
+[ -n "$main" ] || { echo "FAIL: the window '$caption' didn't appear"; cat "$work/jeerbox.log"; exit 1; }
 pass "window up"
 sleep 0.5
 silence=$(nonzero_bytes "$work/audio.raw")

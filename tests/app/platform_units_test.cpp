@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <cstdlib>
 
 #include "platform/clipboard.h"
 #include "platform/command_line.h"
@@ -58,6 +59,21 @@ TEST(InstanceLock, SecondHolderOfTheNameSeesAPreviousInstanceUntilTheFirstGoes) 
   first.reset();
   LocalSocketInstanceLock third(name);
   EXPECT_FALSE(third.PrevInstance());
+}
+
+TEST(InstanceLock, EachDisplayHasALockOfItsOwn) {
+  const std::string name = "jeerbox-display-test-" + std::to_string(::getpid());
+  unsetenv("WAYLAND_DISPLAY");
+  setenv("DISPLAY", ":91", 1);
+  LocalSocketInstanceLock first(name);
+  EXPECT_FALSE(first.PrevInstance());
+  setenv("DISPLAY", ":92", 1);
+  LocalSocketInstanceLock otherDisplay(name);
+  EXPECT_FALSE(otherDisplay.PrevInstance());
+  setenv("DISPLAY", ":91", 1);
+  LocalSocketInstanceLock sameDisplay(name);
+  EXPECT_TRUE(sameDisplay.PrevInstance());
+  unsetenv("DISPLAY");
 }
 
 TEST(QtClipboard, PutsPlainTextOnTheClipboard) {
