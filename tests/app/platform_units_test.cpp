@@ -3,8 +3,12 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMessageBox>
+#include <QTimer>
 #include <cstdlib>
 
 #include "platform/clipboard.h"
@@ -36,6 +40,38 @@ TEST(MessageBoxText, EveryKindOfLineEndBecomesOneLineBreak) {
   EXPECT_EQ(MessageBoxText("a\r\rb"), "a\n\nb");
   EXPECT_EQ(MessageBoxText("a\r\nb\nc"), "a\nb\nc");
   EXPECT_EQ(MessageBoxText("caf\xE9 "), QString::fromUtf8("café "));
+}
+
+struct SeenBox {
+  QString title, text;
+  QMessageBox::Icon icon = QMessageBox::NoIcon;
+  bool seen = false;
+};
+
+// Shows the box through QtMessageBox and notes what it showed, then presses OK.
+SeenBox ShowAndDismiss(const std::string& text, int icon) {
+  SeenBox seen;
+  QTimer poll;
+  QObject::connect(&poll, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return;
+    seen = {box->windowTitle(), box->text(), box->icon(), true};
+    box->button(QMessageBox::Ok)->click();
+  });
+  poll.start(10);
+  QtMessageBox().MsgBox(text, icon, "Jeerbox");
+  return seen;
+}
+
+TEST(QtMessageBox, ShowsTitleTextWithLineBreaksAndTheIcon) {
+  const SeenBox about = ShowAndDismiss("One\r\rTwo \x80", kIconInformation);
+  ASSERT_TRUE(about.seen);
+  EXPECT_EQ(about.title, "Jeerbox");
+  EXPECT_EQ(about.text, QString::fromUtf8("One\n\nTwo €"));
+  EXPECT_EQ(about.icon, QMessageBox::Information);
+  const SeenBox warning = ShowAndDismiss("Invalid command line ignored", kIconExclamation);
+  ASSERT_TRUE(warning.seen);
+  EXPECT_EQ(warning.icon, QMessageBox::Warning);
 }
 
 TEST(CommandLine, ArgumentsAfterTheProgramNameJoinedByBlanks) {
