@@ -48,6 +48,8 @@ class FJeerbox : public QDialog {
   // The about box's text, as 8-bit text with CR paragraph breaks.
   std::string AboutText() const;
 
+  // The window's events. Public so that tests can raise them one by one as
+  // the toolkit would; nothing else in the program calls them.
   void cmdAbout_Click();
   void cmdClose_Click();
   void cmdCopy_Click();
