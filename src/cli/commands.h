@@ -13,6 +13,9 @@ constexpr int kExitUsage = 2;
 // say, pick, lines: sentences and lines as the program composes them.
 void AddComposeCommands(CLI::App& app, int* exitCode);
 
+// pack, unpack, check: the word-list files.
+void AddPackCommands(CLI::App& app, int* exitCode);
+
 // The program directory jeer works on: --root, or where jeer itself lies.
 std::string ResolveRoot(const std::string& root);
 

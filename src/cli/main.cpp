@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
   app.fallthrough(false);
   int exitCode = 0;
   jeerbox::AddComposeCommands(app, &exitCode);
+  jeerbox::AddPackCommands(app, &exitCode);
 
   try {
     app.parse(argc, argv);
