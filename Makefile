@@ -3,7 +3,7 @@
 PRESET ?= default
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps build run test test-asan clean
+.PHONY: all deps build run test test-asan lint clean
 
 all: build
 
@@ -24,13 +24,17 @@ test: build
 test-asan: deps
 	@scripts/test.sh asan
 
+# clang-format and clang-tidy over the whole tree (also part of make test).
+lint: build
+	@scripts/lint.sh build/$(PRESET)
+
 clean:
 	rm -rf build
 
 # Each libFuzzer target for FUZZ_SECONDS (default 60) on a scratch copy of
 # its corpus; fails on a crash, a leak, a slow input or too much memory.
 FUZZ_SECONDS ?= 60
-FUZZ_TARGETS = text_store tokens profile
+FUZZ_TARGETS = text_store tokens profile pack
 .PHONY: fuzz
 fuzz: deps
 	@cmake --preset fuzz >/dev/null

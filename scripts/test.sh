@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds and runs every test: the plain debug build first, then the same
-# suite under AddressSanitizer and UndefinedBehaviorSanitizer.
+# suite under AddressSanitizer and UndefinedBehaviorSanitizer, then each
+# fuzz target over its corpus for a few seconds.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 jobs=$(nproc)
@@ -18,5 +19,5 @@ export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:abort_on_error=0}
 export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
 
 presets=("${1:-default}")
-[ "${1:-default}" = asan ] || presets+=(asan)
+[ "${1:-default}" = default ] && presets+=(asan fuzz)
 for p in "${presets[@]}"; do run_suite "$p"; done

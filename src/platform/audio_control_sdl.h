@@ -9,8 +9,9 @@
 
 #include "platform/audio_control.h"
 
+// SDL_mixer's own names, declared here so users of this header need no SDL.
 struct Mix_Chunk;
-typedef struct _Mix_Music Mix_Music;
+typedef struct _Mix_Music Mix_Music;  // NOLINT(bugprone-reserved-identifier)
 
 namespace jeerbox {
 
