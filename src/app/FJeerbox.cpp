@@ -83,9 +83,8 @@ FJeerbox::FJeerbox(const Deployment& deployment, QWidget* parent)
   setObjectName(QStringLiteral("FJeerbox"));
   setWindowTitle(DecodeWindows1252(mDeployment.productDomain));
   setWindowIcon(QIcon(QStringLiteral(":/images/jeerbox_icon.xpm")));
-  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                 Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                 Qt::MSWindowsFixedSizeDialogHint);
+  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                 Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
   setFixedSize(Px(6660), Px(5205));
   setSizeGripEnabled(false);
   setFont(Tahoma(8.25));
@@ -117,12 +116,13 @@ void FJeerbox::BuildControls() {
   lblSponsoredBy->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   SetTextColour(lblSponsoredBy, Qt::white);
 
-  lblHelp = MakeLabel(this, "lblHelp",
-                      QStringLiteral("Jeerbox will generate offensive insults for you on demand. Never again be "
-                                     "stuck for a cutting remark! Please show your support for this FREE product "
-                                     "by visiting our sponsor's website. Jeerbox contains no spyware or malware "
-                                     "of any kind"),
-                      Twips(150, 480, 6375, 855));
+  lblHelp =
+      MakeLabel(this, "lblHelp",
+                QStringLiteral("Jeerbox will generate offensive insults for you on demand. Never again be "
+                               "stuck for a cutting remark! Please show your support for this FREE product "
+                               "by visiting our sponsor's website. Jeerbox contains no spyware or malware "
+                               "of any kind"),
+                Twips(150, 480, 6375, 855));
   lblHelp->setWordWrap(true);
   lblHelp->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   SetTextColour(lblHelp, kTeal);

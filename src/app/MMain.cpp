@@ -50,7 +50,8 @@ void IgnoringFailure(Step step) {
 std::string PreviousInstanceText() {
   const std::string t = kAppTitle;
   return "There is another copy of " + t + " (or " + t + " Configuration) currently running" + "\r\r" +
-         "If you have just closed " + t + " " + "then you may need to wait for a few seconds before starting again";
+         "If you have just closed " + t + " " +
+         "then you may need to wait for a few seconds before starting again";
 }
 
 void Main() {

@@ -6,6 +6,7 @@
 #include "app/MForms.h"
 #include "app/MMain.h"
 #include "app/app_services.h"
+#include "platform/audio_sdl.h"
 #include "platform/clipboard.h"
 #include "platform/command_line.h"
 #include "platform/fonts.h"
@@ -14,7 +15,6 @@
 #include "platform/previous_instance.h"
 #include "platform/process.h"
 #include "platform/shell.h"
-#include "platform/audio_sdl.h"
 
 // Under LeakSanitizer: libdbus, which Qt's X11 platform uses, keeps one
 // buffer to the end on purpose. Nothing calls this in a normal build.

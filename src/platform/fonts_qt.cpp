@@ -1,7 +1,7 @@
 // fontconfig doesn't scan wine's font folder, so the file is added by hand.
+#include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QFile>
 
 #include "platform/fonts.h"
 

@@ -39,16 +39,15 @@ curl_slist* CacheHeaders(uint32_t flags) {
 CurlInternet::CurlInternet(long connectTimeoutMs, long totalTimeoutMs)
     : mConnectTimeoutMs(connectTimeoutMs), mTotalTimeoutMs(totalTimeoutMs) {}
 
-HINTERNET CurlInternet::InternetOpenA(const char* agent, uint32_t, const char*, const char*,
-                                      uint32_t) {
+HINTERNET CurlInternet::InternetOpenA(const char* agent, uint32_t, const char*, const char*, uint32_t) {
   InitCurlOnce();
   auto* session = new Handle(HandleKind::kSession);
   session->agent = agent ? agent : "";
   return session;
 }
 
-HINTERNET CurlInternet::InternetOpenUrlA(HINTERNET internet, const char* url, const char*,
-                                         uint32_t, uint32_t flags, uintptr_t) {
+HINTERNET CurlInternet::InternetOpenUrlA(HINTERNET internet, const char* url, const char*, uint32_t,
+                                         uint32_t flags, uintptr_t) {
   auto* session = static_cast<Handle*>(internet);
   if (!session || session->kind != HandleKind::kSession || !url) return nullptr;
   CURL* curl = curl_easy_init();

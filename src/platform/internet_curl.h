@@ -18,8 +18,8 @@ class CurlInternet : public IInternet {
 
   HINTERNET InternetOpenA(const char* agent, uint32_t accessType, const char* proxyName,
                           const char* proxyBypass, uint32_t flags) override;
-  HINTERNET InternetOpenUrlA(HINTERNET internet, const char* url, const char* headers,
-                             uint32_t headersLength, uint32_t flags, uintptr_t context) override;
+  HINTERNET InternetOpenUrlA(HINTERNET internet, const char* url, const char* headers, uint32_t headersLength,
+                             uint32_t flags, uintptr_t context) override;
   bool InternetCloseHandle(HINTERNET handle) override;
 
  private:

@@ -18,8 +18,8 @@ class IShell {
 // the URL as its one argument, never through a shell.
 class QtShell : public IShell {
  public:
-  void ShellExecuteA(void* ownerWindow, const char* operation, const char* file,
-                     const char* parameters, const char* directory, int showCommand) override;
+  void ShellExecuteA(void* ownerWindow, const char* operation, const char* file, const char* parameters,
+                     const char* directory, int showCommand) override;
 };
 
 }  // namespace jeerbox

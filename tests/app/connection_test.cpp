@@ -28,7 +28,9 @@ bool Answered(CurlInternet& net, const std::string& url) {
   return request != nullptr;
 }
 
-std::string TestUrl(const std::string& hostAndPort) { return "http://" + hostAndPort + "/connectiontest.html"; }
+std::string TestUrl(const std::string& hostAndPort) {
+  return "http://" + hostAndPort + "/connectiontest.html";
+}
 
 TEST(CurlInternet, AnyHttpAnswerCountsWhateverItsStatus) {
   CurlInternet net(2000, 2000);

@@ -1,8 +1,8 @@
 // The recording fakes' bodies.
 #include "fake_platform.h"
 
-#include "app/MForms.h"
 #include "app/FJeerbox.h"
+#include "app/MForms.h"
 
 namespace jeerbox::testing {
 

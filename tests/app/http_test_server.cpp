@@ -36,8 +36,8 @@ bool Readable(int fd, int timeoutMs) {
 }  // namespace
 
 std::string HttpReply(int status, const std::string& reason, const std::string& body) {
-  return "HTTP/1.1 " + std::to_string(status) + " " + reason + "\r\nContent-Length: " +
-         std::to_string(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
+  return "HTTP/1.1 " + std::to_string(status) + " " + reason +
+         "\r\nContent-Length: " + std::to_string(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
 }
 
 HttpTestServer::HttpTestServer(Mode mode, std::string reply) : mMode(mode), mReply(std::move(reply)) {

@@ -218,9 +218,10 @@ TEST_F(MainWindow, AboutBoxTellsWhoMadeIt) {
   EXPECT_EQ(about.text,
             "Jeerbox was developed by Hollowmere for fun and shouldn't be taken seriously by anyone!\r\r"
             "Jeerbox is FREE and can be distributed to anyone using the FREE installation tool which is "
-            "available for download at " + d.productSiteUrl + "\r\r" +
-            "If you are interested in sponsoring a copy to promote your business then contact us at " +
-            d.sponsorsAddress + "\r\r" + d.noticeLine);
+            "available for download at " +
+                d.productSiteUrl + "\r\r" +
+                "If you are interested in sponsoring a copy to promote your business then contact us at " +
+                d.sponsorsAddress + "\r\r" + d.noticeLine);
   EXPECT_EQ(about.icon, kIconInformation);
   EXPECT_EQ(about.title, "Jeerbox");
   // Shown with each lone CR as a line break: four paragraphs, blank lines between.

@@ -107,8 +107,8 @@ TEST_F(ProgramFlow, CommandLineOfAnythingButBlanksIsWarnedAboutOnceThenStartGoes
 // window is already closing, so the nested unload is refused and the end
 // comes while it is still up.
 void ExpectOrderlyEnd(const EventLog& tail, const std::string& end) {
-  EXPECT_EQ(tail, (EventLog{"audio ResetMixer", "audio CloseMusic", "audio CloseMixer",
-                            "audio ResetMixer", end}));
+  EXPECT_EQ(tail,
+            (EventLog{"audio ResetMixer", "audio CloseMusic", "audio CloseMixer", "audio ResetMixer", end}));
 }
 
 TEST_F(ProgramFlow, CloseButtonShutsDownAudioThenFormsThenTheMainFormLast) {
