@@ -18,6 +18,7 @@
 
 // Under LeakSanitizer: libdbus, which Qt's X11 platform uses, keeps one
 // buffer to the end on purpose. Nothing calls this in a normal build.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own hook name
 extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1.so\n"; }
 
 int main(int argc, char* argv[]) {

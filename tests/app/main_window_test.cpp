@@ -162,8 +162,7 @@ TEST_F(MainWindow, TabTakesInCopyOnlyOnceItIsEnabled) {
 
 TEST_F(MainWindow, SentenceIsShownAndCopiedCharacterForCharacter) {
   // Windows-1252 bytes, a stray CR and a trailing blank.
-  const std::string sentence = "Caf\xE9 \x93lout\x94 \x80\x85\rnitwit ";
-  form->SetInsultSource([&] { return sentence; });
+  form->SetInsultSource([] { return std::string("Caf\xE9 \x93lout\x94 \x80\x85\rnitwit "); });
   QTest::mouseClick(Button("cmdInsult"), Qt::LeftButton);
   const QString expected = QString::fromUtf8("Café “lout” €…\rnitwit ");
   auto* text = Control<CTextBox>("txtInsult");
