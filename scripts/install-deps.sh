@@ -10,6 +10,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev
   clang libclang-rt-14-dev clang-format clang-tidy
   xvfb xauth xdotool xclip
+  fonts-wine imagemagick librsvg2-bin
 )
 [ $# -gt 0 ] && packages+=("$@")
 
