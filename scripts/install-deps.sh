@@ -9,7 +9,7 @@ packages=(
   qt6-base-dev libsdl2-mixer-dev libcurl4-openssl-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev
   clang libclang-rt-14-dev clang-format clang-tidy
-  xvfb xauth xdotool xclip
+  xvfb xauth xdotool xclip strace
   fonts-wine imagemagick librsvg2-bin
 )
 [ $# -gt 0 ] && packages+=("$@")
