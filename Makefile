@@ -3,7 +3,7 @@
 PRESET ?= default
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps build run test test-asan clean
+.PHONY: all deps build run test test-asan clean package
 
 all: build
 
@@ -26,6 +26,12 @@ test-asan: deps
 
 clean:
 	rm -rf build
+
+# The Debian package, from the release build: build/release/jeerbox_*.deb.
+package: deps
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release -j $(JOBS)
+	@cd build/release && cpack -G DEB
 
 # Each libFuzzer target for FUZZ_SECONDS (default 60) on a scratch copy of
 # its corpus; fails on a crash, a leak, a slow input or too much memory.
