@@ -55,14 +55,15 @@ install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR
 
 # --- The Debian package: cpack in the build directory (make package) ---
 set(CPACK_GENERATOR DEB)
+set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_PACKAGE_NAME jeerbox)
 set(CPACK_PACKAGE_VENDOR "Hollowmere")
 set(CPACK_PACKAGE_CONTACT "Jeerbox maintainers <jeerbox@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "insults on demand, with a laugh")
-set(CPACK_PACKAGE_DESCRIPTION "Press \"Insult me\" and Jeerbox composes a fresh, theatrical English \
-insult from its word lists, shows it, plays a laugh, and lets you copy it to the clipboard. \
-The companion command jeer composes sentences in a terminal and packs, unpacks and checks \
-the word-list files.")
+set(CPACK_PACKAGE_DESCRIPTION [[Press "Insult me" and Jeerbox composes a fresh, theatrical English
+insult from its word lists, shows it, plays a laugh, and lets you copy it
+to the clipboard. The companion command jeer composes sentences in a
+terminal and packs, unpacks and checks the word-list files.]])
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
