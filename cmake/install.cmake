@@ -15,15 +15,18 @@ endif()
 install(TARGETS ${JEERBOX_PROGRAMS} RUNTIME DESTINATION ${JEERBOX_INSTALL_PROGRAMDIR})
 
 # The links are made in the build tree and installed as links, so a staged
-# install (DESTDIR, CPack) carries them unchanged.
-file(RELATIVE_PATH JEERBOX_BIN_TO_PROGRAMDIR
-     /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${JEERBOX_INSTALL_PROGRAMDIR})
-set(JEERBOX_LINK_DIR ${PROJECT_BINARY_DIR}/install-links)
-file(MAKE_DIRECTORY ${JEERBOX_LINK_DIR})
-foreach(program IN LISTS JEERBOX_PROGRAMS)
-  file(CREATE_LINK ${JEERBOX_BIN_TO_PROGRAMDIR}/${program} ${JEERBOX_LINK_DIR}/${program} SYMBOLIC)
-  install(FILES ${JEERBOX_LINK_DIR}/${program} DESTINATION ${CMAKE_INSTALL_BINDIR})
-endforeach()
+# install (DESTDIR, CPack) carries them unchanged. They are relative (both
+# directories lie under the prefix), so an installed tree can be moved.
+if(UNIX)
+  file(RELATIVE_PATH JEERBOX_BIN_TO_PROGRAMDIR
+       /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${JEERBOX_INSTALL_PROGRAMDIR})
+  set(JEERBOX_LINK_DIR ${PROJECT_BINARY_DIR}/install-links)
+  file(MAKE_DIRECTORY ${JEERBOX_LINK_DIR})
+  foreach(program IN LISTS JEERBOX_PROGRAMS)
+    file(CREATE_LINK ${JEERBOX_BIN_TO_PROGRAMDIR}/${program} ${JEERBOX_LINK_DIR}/${program} SYMBOLIC)
+    install(FILES ${JEERBOX_LINK_DIR}/${program} DESTINATION ${CMAKE_INSTALL_BINDIR})
+  endforeach()
+endif()
 
 # The data, named one by one from the sources, so nothing else that happens
 # to lie in the build's program directory gets installed.
