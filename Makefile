@@ -3,7 +3,7 @@
 PRESET ?= default
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps build run test test-asan lint clean
+.PHONY: all deps build run test test-asan lint clean package
 
 all: build
 
@@ -30,6 +30,12 @@ lint: build
 
 clean:
 	rm -rf build
+
+# The Debian package, from the release build: build/release/jeerbox_*.deb.
+package: deps
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release -j $(JOBS)
+	@cd build/release && cpack -G DEB
 
 # Each libFuzzer target for FUZZ_SECONDS (default 60) on a scratch copy of
 # its corpus; fails on a crash, a leak, a slow input or too much memory.

@@ -11,6 +11,7 @@ packages=(
   clang libclang-rt-14-dev clang-format clang-tidy
   xvfb xauth xdotool xclip strace
   fonts-wine imagemagick librsvg2-bin
+  dpkg-dev desktop-file-utils appstream groff-base
 )
 [ $# -gt 0 ] && packages+=("$@")
 

@@ -1,0 +1,95 @@
+#!/usr/bin/env bash
+# Installs the build into a scratch prefix and runs the installed programs
+# through their bin/ links from elsewhere, as a user would.
+#   check_install.sh BUILD_DIR HAS_WINDOW_PROGRAM(0|1)
+set -uo pipefail
+build=$1
+has_window=$2
+source "$(dirname "$0")/common.sh"
+
+prefix=$scratch/prefix
+if ! cmake --install "$build" --prefix "$prefix" >"$scratch/install.log" 2>&1; then
+  cat "$scratch/install.log" >&2
+  fail "cmake --install"
+  finish
+fi
+lib=$prefix/lib/jeerbox
+
+programs=(jeer)
+[ "$has_window" = 1 ] && programs+=(jeerbox)
+for p in "${programs[@]}"; do
+  expect "$p is an executable in lib/jeerbox" test -x "$lib/$p" -a ! -L "$lib/$p"
+  target=$(readlink "$prefix/bin/$p") || fail "bin/$p is not a link"
+  [ "$target" = "../lib/jeerbox/$p" ] || fail "bin/$p points to '$target', not ../lib/jeerbox/$p"
+done
+[ "$has_window" = 1 ] || expect "no bin/jeerbox without the window program" test ! -e "$prefix/bin/jeerbox"
+
+for f in System/Misc.001 System/Misc.002 System/General.001 UserInfo/Tallowick.cfg; do
+  expect "lib/jeerbox/$f installed" test -s "$lib/$f"
+  cmp -s "$lib/$f" "$build/$f" || fail "lib/jeerbox/$f differs from the build's"
+done
+media=$(find "$lib/Media" -type f \( -name '*.mp3' -o -name '*.wav' \) | wc -l)
+[ "$media" -ge 1 ] || fail "no sounds in lib/jeerbox/Media"
+[ -z "$(find "$lib" -name '*.tmp' -o -name '.*' -type f)" ] || fail "stray files in lib/jeerbox"
+
+# The prefix is moved first: the links must be relative to keep working, and
+# the program must not depend on the directory it was installed to or run from.
+mv "$prefix" "$scratch/moved"
+prefix=$scratch/moved
+lib=$prefix/lib/jeerbox
+mkdir "$scratch/elsewhere"
+if out=$(cd "$scratch/elsewhere" && "$prefix/bin/jeer" say --count 5 2>&1); then
+  lines=$(printf '%s\n' "$out" | grep -c '[a-z]')
+  [ "$lines" -eq 5 ] || fail "jeer say --count 5 printed $lines sentences: $out"
+  if printf '%s\n' "$out" | grep -q 'System files missing'; then
+    fail "the installed jeer did not find its System/ files: $out"
+  fi
+  printf '%s\n' "$out" | head -1
+else
+  fail "installed jeer say exited non-zero: $out"
+fi
+expect "jeer check is clean on the installed program directory" \
+  "$prefix/bin/jeer" check --root "$lib" >"$scratch/check.log"
+(cd "$scratch/elsewhere" && "$prefix/bin/jeer" check >/dev/null) ||
+  fail "jeer check through the bin/ link is not clean"
+
+share=$prefix/share
+desktop=$share/applications/jeerbox.desktop
+metainfo=$share/metainfo/org.example.Jeerbox.metainfo.xml
+expect "desktop entry installed" test -s "$desktop"
+expect "metainfo installed" test -s "$metainfo"
+for size in 32 48 128 256; do
+  icon=$share/icons/hicolor/${size}x${size}/apps/jeerbox.png
+  # PNG width and height are the big-endian words at bytes 16 and 20.
+  dims=$(od -An -tu1 -j16 -N8 "$icon" 2>/dev/null | tr -s ' ' | sed 's/^ //')
+  want="0 0 $((size / 256)) $((size % 256)) 0 0 $((size / 256)) $((size % 256))"
+  [ "$dims" = "$want" ] || fail "$icon is not a ${size}x${size} PNG ($dims)"
+done
+for page in jeer jeerbox; do
+  expect "man page $page.1 installed" test -s "$share/man/man1/$page.1"
+  if command -v groff >/dev/null; then
+    warnings=$(groff -man -ww -z "$share/man/man1/$page.1" 2>&1)
+    [ -z "$warnings" ] || fail "$page.1 has roff warnings: $warnings"
+  fi
+done
+
+if command -v desktop-file-validate >/dev/null; then
+  expect "desktop-file-validate" desktop-file-validate "$desktop"
+else
+  echo "desktop-file-validate not installed: desktop entry not validated"
+fi
+if command -v appstreamcli >/dev/null; then
+  if ! appstreamcli validate --no-net "$metainfo" >"$scratch/as.log" 2>&1; then
+    cat "$scratch/as.log" >&2
+    fail "appstreamcli validate"
+  fi
+else
+  echo "appstreamcli not installed: metainfo not validated"
+fi
+# The metainfo must name the desktop entry and the icon that are installed.
+grep -q '<launchable type="desktop-id">jeerbox.desktop</launchable>' "$metainfo" ||
+  fail "metainfo does not launch jeerbox.desktop"
+grep -qx 'Icon=jeerbox' "$desktop" || fail "desktop entry does not use the jeerbox icon"
+grep -qx 'Exec=jeerbox' "$desktop" || fail "desktop entry does not run jeerbox"
+
+finish
