@@ -136,8 +136,7 @@ struct FamilyScan {
 
 // What the reader passes over in one file: data-like lines in front of the
 // first head, lines of blanks, and second sections of a key.
-void ScanFile(const std::string& name, const std::string& bytes, FamilyScan* scan,
-              FamilyReport* family) {
+void ScanFile(const std::string& name, const std::string& bytes, FamilyScan* scan, FamilyReport* family) {
   std::set<std::string> keys;
   std::string current;
   int ignored = 0;
@@ -154,11 +153,9 @@ void ScanFile(const std::string& name, const std::string& bytes, FamilyScan* sca
         ++scan->filesPerKey[current];
     } else if (!line.empty() && line.find_first_not_of(' ') == std::string_view::npos) {
       // Right in front of a head the blanks carry the CR and are read.
-      const bool beforeHead =
-          i + 1 < lines.size() && !lines[i + 1].empty() && lines[i + 1].front() == '[';
+      const bool beforeHead = i + 1 < lines.size() && !lines[i + 1].empty() && lines[i + 1].front() == '[';
       if (!current.empty() && !beforeHead) ++scan->droppedPerKey[current];
-    } else if (current.empty() && !line.empty() && line.front() != ';' &&
-               line != SimpleCrypt("<XT>")) {
+    } else if (current.empty() && !line.empty() && line.front() != ';' && line != SimpleCrypt("<XT>")) {
       ++ignored;
     }
   }
@@ -167,8 +164,7 @@ void ScanFile(const std::string& name, const std::string& bytes, FamilyScan* sca
                                " in front of the first head, never read");
 }
 
-FamilyReport CheckFamily(const std::string& family, const std::set<int>& present,
-                         FamilyScan* scan) {
+FamilyReport CheckFamily(const std::string& family, const std::set<int>& present, FamilyScan* scan) {
   FamilyReport report;
   report.family = family;
   const std::string marker = SimpleCrypt("<XT>");
@@ -182,13 +178,11 @@ FamilyReport CheckFamily(const std::string& family, const std::set<int>& present
     ScanFile(PackedName(family, n), bytes, scan, &report);
   }
   if (n == 1)
-    report.problems.push_back("no file " + PackedName(family, 1) +
-                              ": nothing of the family is read");
+    report.problems.push_back("no file " + PackedName(family, 1) + ": nothing of the family is read");
   for (int number : present)
     if (number > n)
       report.problems.push_back(PackedName(family, number) +
-                                " is never read: the program stops at the missing " +
-                                PackedName(family, n));
+                                " is never read: the program stops at the missing " + PackedName(family, n));
   return report;
 }
 
@@ -211,8 +205,7 @@ void CheckLines(const LineList& lines, KeyReport* report,
       findings.Add("with a trailing CR (a data line right in front of a head)", text);
     if (Trim(text).empty()) findings.Add("reading as nothing", text);
     for (const std::string& token : Tokens(text)) {
-      if (!KnownTokens().count(token))
-        findings.Add("with a token that names no key (" + token + ")", text);
+      if (!KnownTokens().count(token)) findings.Add("with a token that names no key (" + token + ")", text);
       for (const ShorthandToken& shorthand : kShorthandTokens)
         if (token == shorthand.token) (*reaches)[report->key].insert(shorthand.key);
     }
@@ -245,8 +238,7 @@ std::vector<std::string> CycleThrough(const std::string& key,
     for (const std::string& next : edges->second) {
       if (next == key) {
         std::vector<std::string> path = {key};
-        for (std::string at = queue[i]; at != key; at = parent[at])
-          path.insert(path.begin() + 1, at);
+        for (std::string at = queue[i]; at != key; at = parent[at]) path.insert(path.begin() + 1, at);
         path.push_back(key);
         return path;
       }
@@ -295,8 +287,8 @@ CheckReport CheckSystem() {
     LineList lines = generator.GetCacheItem(key);
     if (lines.size() == 1 && lines[0].empty()) {
       lines = LineList();
-      keyReport.problems.push_back(std::string("no lines: the program would say \"") +
-                                   kMissingFilesText + "\"");
+      keyReport.problems.push_back(std::string("no lines: the program would say \"") + kMissingFilesText +
+                                   "\"");
     }
     CheckLines(lines, &keyReport, &reaches);
     if (scan.droppedPerKey.count(key))
@@ -318,18 +310,18 @@ void PrintCheckReport(const CheckReport& report, std::ostream& out) {
   out << "Checking " << report.systemDir << "\n\n";
   size_t width = 6;
   for (const KeyReport& key : report.keys) width = std::max(width, key.key.size());
-  out << std::left << std::setw(static_cast<int>(width)) << "Family" << std::right << std::setw(7)
-      << "Files" << std::setw(8) << "Marked"
+  out << std::left << std::setw(static_cast<int>(width)) << "Family" << std::right << std::setw(7) << "Files"
+      << std::setw(8) << "Marked"
       << "\n";
   int files = 0;
   for (const FamilyReport& family : report.families) {
-    out << std::left << std::setw(static_cast<int>(width)) << family.family << std::right
-        << std::setw(7) << family.files << std::setw(8) << family.marked << "\n";
+    out << std::left << std::setw(static_cast<int>(width)) << family.family << std::right << std::setw(7)
+        << family.files << std::setw(8) << family.marked << "\n";
     files += family.files;
   }
   out << "\n"
-      << std::left << std::setw(static_cast<int>(width)) << "Key" << std::right << std::setw(7)
-      << "Files" << std::setw(8) << "Lines" << std::setw(10) << "Distinct"
+      << std::left << std::setw(static_cast<int>(width)) << "Key" << std::right << std::setw(7) << "Files"
+      << std::setw(8) << "Lines" << std::setw(10) << "Distinct"
       << "  Problems\n";
   int lines = 0;
   for (const KeyReport& key : report.keys) {
@@ -345,8 +337,7 @@ void PrintCheckReport(const CheckReport& report, std::ostream& out) {
       for (const std::string& problem : family.problems)
         out << "  " << family.family << ": " << problem << "\n";
     for (const KeyReport& key : report.keys)
-      for (const std::string& problem : key.problems)
-        out << "  " << key.key << ": " << problem << "\n";
+      for (const std::string& problem : key.problems) out << "  " << key.key << ": " << problem << "\n";
   }
   out << "\n" << report.keys.size() << " keys, " << lines << " lines in " << files << " files: ";
   if (problems == 0)

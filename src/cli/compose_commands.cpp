@@ -54,17 +54,16 @@ bool FitsUnsigned64(const std::string& value) {
 
 const CLI::Validator kWholeNumber(
     [](std::string& value) {
-      return FitsUnsigned64(value) ? std::string()
-                                   : "'" + value + "' is not a whole number from 0 to 2^64-1";
+      return FitsUnsigned64(value) ? std::string() : "'" + value + "' is not a whole number from 0 to 2^64-1";
     },
     "N", "whole number");
 
 void AddDrawOptions(CLI::App* command, ComposeOptions* options) {
   AddRootOption(command, options);
-  command->add_option("-n,--count", options->count, "How many to print (default 1)")
-      ->check(kWholeNumber);
-  command->add_option("--seed", options->seed,
-                      "Unsigned 64-bit seed: the same seed, data and build print the same")
+  command->add_option("-n,--count", options->count, "How many to print (default 1)")->check(kWholeNumber);
+  command
+      ->add_option("--seed", options->seed,
+                   "Unsigned 64-bit seed: the same seed, data and build print the same")
       ->check(kWholeNumber)
       ->each([options](const std::string&) { options->seeded = true; });
   command->add_flag("--escape", options->escape,
@@ -103,15 +102,14 @@ void AddComposeCommands(CLI::App& app, int* exitCode) {
     *exitCode = 0;
   });
 
-  CLI::App* lines = app.add_subcommand(
-      "lines", "List a key's lines as read from the files, unscrambled and escaped");
+  CLI::App* lines =
+      app.add_subcommand("lines", "List a key's lines as read from the files, unscrambled and escaped");
   lines->add_option("KEY", options->key, "Text key, such as General-Insult")->required();
   AddRootOption(lines, options.get());
   lines->callback([options, exitCode] {
     Prepare(*options);
     CTextGenerator generator;
-    for (std::string_view line : generator.GetCacheItem(options->key))
-      PrintLine(SimpleCrypt(line), true);
+    for (std::string_view line : generator.GetCacheItem(options->key)) PrintLine(SimpleCrypt(line), true);
     *exitCode = 0;
   });
 }

@@ -9,10 +9,18 @@ std::string EscapeBytes(std::string_view text) {
   for (char c : text) {
     const auto u = static_cast<unsigned char>(c);
     switch (u) {
-      case '\\': out += "\\\\"; break;
-      case '\r': out += "\\r"; break;
-      case '\n': out += "\\n"; break;
-      case '\t': out += "\\t"; break;
+      case '\\':
+        out += "\\\\";
+        break;
+      case '\r':
+        out += "\\r";
+        break;
+      case '\n':
+        out += "\\n";
+        break;
+      case '\t':
+        out += "\\t";
+        break;
       default:
         if (u < 0x20 || u >= 0x7F) {
           out += "\\x";

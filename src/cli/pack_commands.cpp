@@ -47,9 +47,8 @@ void AddPackCommands(CLI::App& app, int* exitCode) {
   pack->footer(kPackHelp);
   pack->add_option("SOURCE_DIR", options->from, "Directory of FAMILY.NNN.txt sources")->required();
   pack->add_option("SYSTEM_DIR", options->to, "Directory to write FAMILY.NNN files to")->required();
-  pack->callback([options, exitCode] {
-    *exitCode = RunPack(options->from, options->to, std::cout, std::cerr);
-  });
+  pack->callback(
+      [options, exitCode] { *exitCode = RunPack(options->from, options->to, std::cout, std::cerr); });
 
   CLI::App* unpack = app.add_subcommand("unpack", "Turn System/ files back into sources");
   unpack->footer(
@@ -57,20 +56,16 @@ void AddPackCommands(CLI::App& app, int* exitCode) {
       "(LF line ends). Sources there that SYSTEM_DIR has no file for are left alone.");
   unpack->add_option("SYSTEM_DIR", options->from, "Directory of FAMILY.NNN files")->required();
   unpack->add_option("SOURCE_DIR", options->to, "Directory to write sources to")->required();
-  unpack->callback([options, exitCode] {
-    *exitCode = RunUnpack(options->from, options->to, std::cout, std::cerr);
-  });
+  unpack->callback(
+      [options, exitCode] { *exitCode = RunUnpack(options->from, options->to, std::cout, std::cerr); });
 
-  CLI::App* check =
-      app.add_subcommand("check", "Check the installed word lists as the program reads them");
+  CLI::App* check = app.add_subcommand("check", "Check the installed word lists as the program reads them");
   check->footer(
       "Reports per family and key: files, lines, marked files, lines read with a\n"
       "trailing CR, lines the reader drops, unknown tokens, bad brace groups, tokens\n"
       "that recurse, and lists too short for the composer. Exit 0 when clean, 1 not.");
-  check->add_option("--root", options->root,
-                    "Program directory holding System/ (default: where jeer lies)");
-  check->callback(
-      [options, exitCode] { *exitCode = RunCheck(ResolveRoot(options->root), std::cout); });
+  check->add_option("--root", options->root, "Program directory holding System/ (default: where jeer lies)");
+  check->callback([options, exitCode] { *exitCode = RunCheck(ResolveRoot(options->root), std::cout); });
 }
 
 }  // namespace jeerbox

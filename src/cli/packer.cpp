@@ -40,8 +40,7 @@ struct Head {
 
 class SourcePacker {
  public:
-  SourcePacker(const std::string& fileName, const std::string& family,
-               std::vector<Diagnostic>* diagnostics)
+  SourcePacker(const std::string& fileName, const std::string& family, std::vector<Diagnostic>* diagnostics)
       : mFile(fileName), mFamily(family), mDiagnostics(diagnostics) {}
 
   std::string Pack(const std::vector<SourceLine>& lines, std::map<std::string, KeyTally>* keyLines,
@@ -54,9 +53,7 @@ class SourcePacker {
   }
 
  private:
-  void Report(int line, const std::string& reason) {
-    mDiagnostics->push_back({mFile, line, reason});
-  }
+  void Report(int line, const std::string& reason) { mDiagnostics->push_back({mFile, line, reason}); }
 
   void Write(const std::string& bytes, int sourceLine, std::string what) {
     mWritten.push_back({mOut.size(), sourceLine, std::move(what)});
@@ -115,8 +112,7 @@ class SourcePacker {
     if (tally.file.empty()) tally = {tally.lines, mFile, line.number};
   }
 
-  void AddData(const SourceLine& line, std::map<std::string, KeyTally>* keyLines,
-               PackStats* stats) {
+  void AddData(const SourceLine& line, std::map<std::string, KeyTally>* keyLines, PackStats* stats) {
     if (mHeads.empty()) {
       Report(line.number, "a data line in front of the first head: the program never reads it");
       return;
@@ -132,8 +128,7 @@ class SourcePacker {
   void CloseSection() {
     if (mSectionLine > 0 && mSectionPieces + 1 > kMaxLinesPerKey)
       Report(mSectionLine, "the section runs to " + std::to_string(mSectionPieces + 1) +
-                               " lines; the reader takes at most " +
-                               std::to_string(kMaxLinesPerKey));
+                               " lines; the reader takes at most " + std::to_string(kMaxLinesPerKey));
     mSectionLine = 0;
   }
 
@@ -170,10 +165,9 @@ void CheckNumbering(const std::map<std::string, std::map<int, std::string>>& fam
     int expected = 1;
     for (const auto& [number, name] : files) {
       if (number != expected) {
-        diagnostics->push_back(
-            {name, 0,
-             "family " + family + " has no file " + PackedName(family, expected) +
-                 ".txt in front of this one; the program stops reading at the gap"});
+        diagnostics->push_back({name, 0,
+                                "family " + family + " has no file " + PackedName(family, expected) +
+                                    ".txt in front of this one; the program stops reading at the gap"});
         break;
       }
       ++expected;
@@ -183,9 +177,9 @@ void CheckNumbering(const std::map<std::string, std::map<int, std::string>>& fam
 
 }  // namespace
 
-std::string PackSource(const std::string& fileName, const std::string& family,
-                       std::string_view bytes, std::vector<Diagnostic>* diagnostics,
-                       std::map<std::string, KeyTally>* keyLines, PackStats* stats) {
+std::string PackSource(const std::string& fileName, const std::string& family, std::string_view bytes,
+                       std::vector<Diagnostic>* diagnostics, std::map<std::string, KeyTally>* keyLines,
+                       PackStats* stats) {
   const std::vector<SourceLine> lines = ParseSource(fileName, bytes, diagnostics);
   return SourcePacker(fileName, family, diagnostics).Pack(lines, keyLines, stats);
 }
@@ -211,18 +205,18 @@ PackResult PackSources(const std::vector<NamedFile>& sources) {
   for (size_t i = 0; i < sources.size(); ++i) {
     if (names[i].first.empty()) continue;
     PackStats stats;
-    std::string bytes = PackSource(sources[i].name, names[i].first, sources[i].bytes,
-                                   &result.diagnostics, &keyLines[names[i].first], &stats);
+    std::string bytes = PackSource(sources[i].name, names[i].first, sources[i].bytes, &result.diagnostics,
+                                   &keyLines[names[i].first], &stats);
     result.files.push_back({PackedName(names[i].first, names[i].second), std::move(bytes)});
     result.stats.push_back(stats);
   }
   for (const auto& [family, keys] : keyLines)
     for (const auto& [key, tally] : keys)
       if (tally.lines > kMaxLinesPerKey)
-        result.diagnostics.push_back(
-            {tally.file, tally.line,
-             "key \"" + key + "\" has " + std::to_string(tally.lines) + " data lines over family " +
-                 family + "; the reader takes at most " + std::to_string(kMaxLinesPerKey)});
+        result.diagnostics.push_back({tally.file, tally.line,
+                                      "key \"" + key + "\" has " + std::to_string(tally.lines) +
+                                          " data lines over family " + family +
+                                          "; the reader takes at most " + std::to_string(kMaxLinesPerKey)});
   for (const auto& entry : families) result.families.push_back(entry.first);
   std::stable_sort(result.diagnostics.begin(), result.diagnostics.end(),
                    [](const Diagnostic& a, const Diagnostic& b) {
@@ -288,19 +282,16 @@ int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ost
     }
   }
 
-  if (!WriteFilesAtomically(systemDir, result.files, &error) ||
-      !RemoveFiles(systemDir, stale, &error)) {
+  if (!WriteFilesAtomically(systemDir, result.files, &error) || !RemoveFiles(systemDir, stale, &error)) {
     err << "jeer pack: " << error << "\n";
     return 1;
   }
   for (size_t i = 0; i < result.files.size(); ++i) {
     const PackStats& stats = result.stats[i];
-    out << "  " << result.files[i].name << "  " << stats.keys
-        << (stats.keys == 1 ? " key, " : " keys, ") << stats.lines
-        << (stats.lines == 1 ? " line" : " lines") << (stats.marked ? ", marked" : "") << "\n";
+    out << "  " << result.files[i].name << "  " << stats.keys << (stats.keys == 1 ? " key, " : " keys, ")
+        << stats.lines << (stats.lines == 1 ? " line" : " lines") << (stats.marked ? ", marked" : "") << "\n";
   }
-  for (const std::string& name : stale)
-    out << "  " << name << "  removed: no source has it any more\n";
+  for (const std::string& name : stale) out << "  " << name << "  removed: no source has it any more\n";
   out << "jeer pack: " << result.files.size() << (result.files.size() == 1 ? " file" : " files")
       << " written to " << systemDir << "\n";
   return 0;

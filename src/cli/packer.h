@@ -26,9 +26,9 @@ struct KeyTally {
   std::string file;  // where the key's first section stands
   int line = 0;
 };
-std::string PackSource(const std::string& fileName, const std::string& family,
-                       std::string_view bytes, std::vector<Diagnostic>* diagnostics,
-                       std::map<std::string, KeyTally>* keyLines, PackStats* stats);
+std::string PackSource(const std::string& fileName, const std::string& family, std::string_view bytes,
+                       std::vector<Diagnostic>* diagnostics, std::map<std::string, KeyTally>* keyLines,
+                       PackStats* stats);
 
 struct PackResult {
   std::vector<NamedFile> files;  // empty when there are diagnostics
@@ -44,7 +44,6 @@ PackResult PackSources(const std::vector<NamedFile>& sources);
 // The whole command: reads SOURCE_DIR, writes SYSTEM_DIR all or nothing,
 // removes the numbered files of the packed families that the sources no
 // longer have. Returns the exit code.
-int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ostream& out,
-            std::ostream& err);
+int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ostream& out, std::ostream& err);
 
 }  // namespace jeerbox

@@ -50,8 +50,7 @@ bool WriteOne(const fs::path& path, const std::string& bytes) {
 
 }  // namespace
 
-bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& files,
-                          std::string* error) {
+bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& files, std::string* error) {
   std::error_code ec;
   fs::create_directories(dir, ec);
   if (ec) {
@@ -79,8 +78,7 @@ bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& 
   return true;
 }
 
-bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names,
-                 std::string* error) {
+bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names, std::string* error) {
   for (const std::string& name : names) {
     std::error_code ec;
     fs::remove(fs::path(dir) / name, ec);

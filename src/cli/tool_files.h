@@ -21,8 +21,7 @@ bool ReadFileBytes(const std::string& path, std::string* bytes, std::string* err
 // Writes every file to a temporary file in `dir` (created if missing), and
 // only when all are written renames each into place. A failure before the
 // renames removes the temporaries and leaves the old files as they were.
-bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& files,
-                          std::string* error);
+bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& files, std::string* error);
 
 // Removes dir/name for each name; false with a reason at the first failure.
 bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names, std::string* error);

@@ -21,13 +21,9 @@ std::vector<std::string_view> SplitCrLf(std::string_view bytes) {
   return lines;
 }
 
-bool IsHead(std::string_view line) {
-  return line.size() >= 2 && line.front() == '[' && line.back() == ']';
-}
+bool IsHead(std::string_view line) { return line.size() >= 2 && line.front() == '[' && line.back() == ']'; }
 
-bool HoldsLineEnd(std::string_view text) {
-  return text.find_first_of("\r\n") != std::string_view::npos;
-}
+bool HoldsLineEnd(std::string_view text) { return text.find_first_of("\r\n") != std::string_view::npos; }
 
 }  // namespace
 
@@ -46,27 +42,23 @@ std::string UnpackFile(const std::string& fileName, std::string_view bytes,
     };
     if (IsHead(line)) {
       const std::string key = SimpleCrypt(line.substr(1, line.size() - 2));
-      if (HoldsLineEnd(key))
-        diagnostics->push_back({fileName, number, "a key with a CR or LF in it"});
+      if (HoldsLineEnd(key)) diagnostics->push_back({fileName, number, "a key with a CR or LF in it"});
       emit("[" + key + "]");
       inSection = true;
     } else if (line.empty()) {
       emit("");
     } else if (line.find_first_not_of(' ') == std::string_view::npos) {
-      notes->push_back(
-          {fileName, number, "a line of blanks, which the reader drops: written empty"});
+      notes->push_back({fileName, number, "a line of blanks, which the reader drops: written empty"});
       emit("");
     } else if (line == ";" + marker || (!inSection && line == marker)) {
       emit(kMarkerDirective);
     } else if (line.front() == ';') {
-      if (HoldsLineEnd(line))
-        diagnostics->push_back({fileName, number, "a comment with a CR or LF in it"});
+      if (HoldsLineEnd(line)) diagnostics->push_back({fileName, number, "a comment with a CR or LF in it"});
       emit(line);
     } else if (line.front() == '[') {
       diagnostics->push_back({fileName, number, "a line begins with \"[\" but isn't a head"});
     } else if (!inSection) {
-      notes->push_back(
-          {fileName, number, "a data line in front of the first head, never read: left out"});
+      notes->push_back({fileName, number, "a data line in front of the first head, never read: left out"});
     } else if (line == "\r") {
       notes->push_back({fileName, number, "a lone CR, which the reader drops: left out"});
     } else {
@@ -119,10 +111,9 @@ int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::o
     err << systemDir << "/" << note.file << (note.line ? ":" + std::to_string(note.line) : "")
         << ": note: " << note.reason << "\n";
   if (!diagnostics.empty()) {
-    for (const Diagnostic& diagnostic : diagnostics)
-      err << systemDir << "/" << diagnostic.ToString() << "\n";
-    err << "jeer unpack: " << diagnostics.size()
-        << (diagnostics.size() == 1 ? " problem" : " problems") << "; nothing written\n";
+    for (const Diagnostic& diagnostic : diagnostics) err << systemDir << "/" << diagnostic.ToString() << "\n";
+    err << "jeer unpack: " << diagnostics.size() << (diagnostics.size() == 1 ? " problem" : " problems")
+        << "; nothing written\n";
     return 1;
   }
   if (!WriteFilesAtomically(sourceDir, sources, &error)) {
@@ -130,8 +121,8 @@ int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::o
     return 1;
   }
   for (const NamedFile& source : sources) out << "  " << source.name << "\n";
-  out << "jeer unpack: " << sources.size() << (sources.size() == 1 ? " file" : " files")
-      << " written to " << sourceDir << "\n";
+  out << "jeer unpack: " << sources.size() << (sources.size() == 1 ? " file" : " files") << " written to "
+      << sourceDir << "\n";
   return 0;
 }
 

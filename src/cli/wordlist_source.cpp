@@ -33,9 +33,8 @@ SourceLine Classify(std::string_view line, int number, std::string* problem) {
     out.text = line.substr(1, line.size() >= 2 ? line.size() - 2 : 0);
   } else if (line.front() == '@') {
     if (line != kMarkerDirective)
-      *problem = "unknown directive " + Quoted(line) + " (the only one is " +
-                 std::string(kMarkerDirective) + "; write \"\\" + std::string(line.substr(0, 1)) +
-                 "...\" for a data line)";
+      *problem = "unknown directive " + Quoted(line) + " (the only one is " + std::string(kMarkerDirective) +
+                 "; write \"\\" + std::string(line.substr(0, 1)) + "...\" for a data line)";
     out.kind = SourceLine::Kind::kMarker;
   } else {
     out.kind = SourceLine::Kind::kData;
@@ -66,8 +65,7 @@ bool ParsePackedName(std::string_view name, std::string* family, int* number) {
 
 bool ParseSourceName(std::string_view name, std::string* family, int* number) {
   constexpr std::string_view kExtension = ".txt";
-  if (name.size() <= kExtension.size() ||
-      name.substr(name.size() - kExtension.size()) != kExtension)
+  if (name.size() <= kExtension.size() || name.substr(name.size() - kExtension.size()) != kExtension)
     return false;
   return ParsePackedName(name.substr(0, name.size() - kExtension.size()), family, number);
 }
@@ -98,8 +96,8 @@ std::vector<SourceLine> ParseSource(const std::string& fileName, std::string_vie
 }
 
 std::string DataSourceLine(const std::string& text) {
-  const bool plain = !text.empty() && !IsBlanks(text) && text.front() != ';' &&
-                     text.front() != '[' && text.front() != '@' && text.front() != kDataEscape;
+  const bool plain = !text.empty() && !IsBlanks(text) && text.front() != ';' && text.front() != '[' &&
+                     text.front() != '@' && text.front() != kDataEscape;
   return plain ? text : kDataEscape + text;
 }
 
@@ -115,20 +113,18 @@ std::string DataLineProblem(const std::string& text) {
   if (stored.front() == '[')
     return "a data line can't begin with " + first +
            ": its stored form would begin with \"[\" and end the section";
-  if (IsBlanks(stored))
-    return "the stored form of " + Quoted(text) + " would be blanks only and be dropped";
+  if (IsBlanks(stored)) return "the stored form of " + Quoted(text) + " would be blanks only and be dropped";
   if (stored == "\r") return "the stored form would be a lone CR and be dropped";
   const size_t crlf = stored.find("\r\n");
   if (crlf != std::string::npos)
-    return "the stored form would hold CR LF (from " + Quoted(text.substr(crlf, 2)) +
-           " at column " + std::to_string(crlf + 1) + ") and fall apart into two lines";
+    return "the stored form would hold CR LF (from " + Quoted(text.substr(crlf, 2)) + " at column " +
+           std::to_string(crlf + 1) + ") and fall apart into two lines";
   return {};
 }
 
 std::string KeyProblem(const std::string& key, const std::string& family) {
   const size_t hyphen = key.find('-');
-  if (hyphen == std::string::npos)
-    return "key " + Quoted(key) + " has no hyphen, so it names no family";
+  if (hyphen == std::string::npos) return "key " + Quoted(key) + " has no hyphen, so it names no family";
   if (key.find('~') != std::string::npos)
     return "key " + Quoted(key) + " holds \"~\", which the reader's cache can't keep";
   if (key.substr(0, hyphen) != family)

@@ -77,7 +77,11 @@ std::string FixArticle(const std::string& phrase, const std::string& nextWords) 
   const std::string last3 = padded.size() <= 3 ? padded : padded.substr(padded.size() - 3);
   if (last3 != " a " || nextWords.empty()) return phrase;
   switch (ToLower1252(nextWords[0])) {
-    case 'a': case 'e': case 'i': case 'o': case 'u':
+    case 'a':
+    case 'e':
+    case 'i':
+    case 'o':
+    case 'u':
       return trimmed + "n ";
     default:
       return phrase;
@@ -86,8 +90,7 @@ std::string FixArticle(const std::string& phrase, const std::string& nextWords) 
 
 std::string Capitalise(const std::string& text) {
   std::string out = text;
-  for (size_t i = 0; i < out.size(); ++i)
-    out[i] = i == 0 ? ToUpper1252(out[i]) : ToLower1252(out[i]);
+  for (size_t i = 0; i < out.size(); ++i) out[i] = i == 0 ? ToUpper1252(out[i]) : ToLower1252(out[i]);
   return out;
 }
 

@@ -18,8 +18,7 @@ std::string TrimBlanks(const std::string& text) {
 }
 
 bool SameName(const std::string& a, const std::string& b) {
-  return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
            return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
          });
 }
@@ -92,7 +91,8 @@ int GetPrivateProfileStringA(const std::string& section, const std::string& key,
                              const std::string& defaultValue, char* buffer, int size,
                              const std::string& fileName) {
   std::string text;
-  if (CurrentFileSystem().ReadFile(fileName, &text) != FileStatus::kOk) return CopyOut(defaultValue, buffer, size);
+  if (CurrentFileSystem().ReadFile(fileName, &text) != FileStatus::kOk)
+    return CopyOut(defaultValue, buffer, size);
   const std::vector<std::string> lines = SplitLines(text);
   const auto [begin, end] = FindSection(lines, section);
   std::string name, value;
@@ -101,8 +101,8 @@ int GetPrivateProfileStringA(const std::string& section, const std::string& key,
   return CopyOut(defaultValue, buffer, size);
 }
 
-bool WritePrivateProfileStringA(const std::string& section, const std::string& key,
-                                const std::string& value, const std::string& fileName) {
+bool WritePrivateProfileStringA(const std::string& section, const std::string& key, const std::string& value,
+                                const std::string& fileName) {
   std::string text;
   if (CurrentFileSystem().ReadFile(fileName, &text) == FileStatus::kError) return false;
   std::vector<std::string> lines = SplitLines(text);

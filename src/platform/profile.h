@@ -18,7 +18,7 @@ int GetPrivateProfileStringA(const std::string& section, const std::string& key,
 
 // Sets `key` in `section` to `value`, adding the section or the key when
 // missing, and replaces the file as a whole. False when it can't be written.
-bool WritePrivateProfileStringA(const std::string& section, const std::string& key,
-                                const std::string& value, const std::string& fileName);
+bool WritePrivateProfileStringA(const std::string& section, const std::string& key, const std::string& value,
+                                const std::string& fileName);
 
 }  // namespace jeerbox

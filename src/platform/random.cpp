@@ -17,8 +17,7 @@ uint64_t SplitMix64(uint64_t x) {
 }
 
 uint64_t ClockTicks() {
-  return static_cast<uint64_t>(
-      std::chrono::steady_clock::now().time_since_epoch().count());
+  return static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
 }
 
 Pcg32Random& DefaultSource() {
@@ -32,14 +31,10 @@ IRandomSource& Current() { return gSource ? *gSource : DefaultSource(); }
 
 }  // namespace
 
-Pcg32Random::Pcg32Random() : Pcg32Random(SplitMix64(ClockTicks())) {
-  mFixedClock = false;
-}
+Pcg32Random::Pcg32Random() : Pcg32Random(SplitMix64(ClockTicks())) { mFixedClock = false; }
 
 Pcg32Random::Pcg32Random(uint64_t seed)
-    : mInc((SplitMix64(seed ^ 0xDA3E39CB94B95BDBULL) << 1) | 1),
-      mFixedClock(true),
-      mFixedTicks(seed) {
+    : mInc((SplitMix64(seed ^ 0xDA3E39CB94B95BDBULL) << 1) | 1), mFixedClock(true), mFixedTicks(seed) {
   Mix(seed);
 }
 
@@ -78,9 +73,7 @@ IRandomSource* SetRandomSource(IRandomSource* source) {
 }
 
 namespace {
-int Clamp(int value, int low, int high) {
-  return value < low ? low : (value > high ? high : value);
-}
+int Clamp(int value, int low, int high) { return value < low ? low : (value > high ? high : value); }
 }  // namespace
 
 // Every call draws, even for n == 1: callers count on one draw per pick.

@@ -107,13 +107,11 @@ TEST_F(CheckTest, TrailingCrDroppedLinesAndLinesOutsideSections) {
   EXPECT_TRUE(Mentions(Key(report, "Misc-Jeerbox-Someone").problems, "1 line with a trailing CR"));
   EXPECT_TRUE(Mentions(Key(report, "Misc-Extra-Key").problems, "1 stored line of blanks, dropped"));
   EXPECT_TRUE(Mentions(Key(report, "Misc-Extra-Key").problems, "never asks for this key"));
-  EXPECT_TRUE(
-      Mentions(report.families[1].problems, "Misc.002: 1 data line in front of the first head"));
+  EXPECT_TRUE(Mentions(report.families[1].problems, "Misc.002: 1 data line in front of the first head"));
 }
 
 TEST_F(CheckTest, TokensAndBraces) {
-  general.Section("General-Insult2")
-      .Lines({"a <Pirate> hat", "{a/b", "a}b", "x {} y", "{a{b}c}", "{a/}"});
+  general.Section("General-Insult2").Lines({"a <Pirate> hat", "{a/b", "a}b", "x {} y", "{a{b}c}", "{a/}"});
   const CheckReport report = Check();
   const std::vector<std::string>& problems = Key(report, "General-Insult2").problems;
   EXPECT_TRUE(Mentions(problems, "token that names no key (<Pirate>)"));

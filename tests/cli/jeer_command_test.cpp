@@ -42,16 +42,25 @@ class JeerTest : public ::testing::Test {
  protected:
   JeerTest() {
     ScrambledWriter misc;
-    misc.Section("Misc-Jeerbox-WhoSays").Lines({"Granny", "The vicar"})
-        .Section("Misc-Jeerbox-Person").Lines({"you were", "your uncle is"})
-        .Section("Misc-Jeerbox-HowBig").Lines({"such a", "a right", "the most"})
-        .Section("Misc-Jeerbox-Adjective").Lines({"odious", "soggy", "windy", "limp", "absurd"})
-        .Section("Misc-Jeerbox-Noun").Lines({"pudding", "turnip", "eel"})
-        .Section("Misc-Jeerbox-AndMore").Lines({"with the wits of", "who smells like"})
-        .Section("Misc-Jeerbox-Someone").Lines({"a goat", "<Insult>"});
+    misc.Section("Misc-Jeerbox-WhoSays")
+        .Lines({"Granny", "The vicar"})
+        .Section("Misc-Jeerbox-Person")
+        .Lines({"you were", "your uncle is"})
+        .Section("Misc-Jeerbox-HowBig")
+        .Lines({"such a", "a right", "the most"})
+        .Section("Misc-Jeerbox-Adjective")
+        .Lines({"odious", "soggy", "windy", "limp", "absurd"})
+        .Section("Misc-Jeerbox-Noun")
+        .Lines({"pudding", "turnip", "eel"})
+        .Section("Misc-Jeerbox-AndMore")
+        .Lines({"with the wits of", "who smells like"})
+        .Section("Misc-Jeerbox-Someone")
+        .Lines({"a goat", "<Insult>"});
     ScrambledWriter general;
-    general.Section("General-Insult").Lines({"a {damp/dusty} sock", "a kipper"})
-        .Section("General-Curse").Line("tab\there\r");
+    general.Section("General-Insult")
+        .Lines({"a {damp/dusty} sock", "a kipper"})
+        .Section("General-Curse")
+        .Line("tab\there\r");
     root.Write("System/Misc.001", misc.Bytes());
     root.Write("System/General.001", general.Bytes());
   }
@@ -89,7 +98,8 @@ TEST_F(JeerTest, PickExpandsAndEscapesOnRequest) {
   EXPECT_EQ(raw.out, "tab\there\r\n");
   EXPECT_EQ(Jeer("pick General-Curse --escape" + Root()).out, "tab\\there\\r\n");
   std::set<std::string> seen;
-  for (const std::string& line : SplitLines(Jeer("pick General-Insult -n 100" + Root()).out)) seen.insert(line);
+  for (const std::string& line : SplitLines(Jeer("pick General-Insult -n 100" + Root()).out))
+    seen.insert(line);
   EXPECT_EQ(seen, (std::set<std::string>{"a damp sock", "a dusty sock", "a kipper"}));
 }
 

@@ -68,8 +68,7 @@ TEST(PackRefusals, EachNamesTheFileTheLineAndTheReason) {
     ASSERT_EQ(found.size(), 1u) << c.what;
     EXPECT_EQ(found[0].file, "Misc.001.txt") << c.what;
     EXPECT_EQ(found[0].line, c.line) << c.what << ": " << found[0].ToString();
-    EXPECT_NE(found[0].reason.find(c.reason), std::string::npos)
-        << c.what << ": " << found[0].reason;
+    EXPECT_NE(found[0].reason.find(c.reason), std::string::npos) << c.what << ": " << found[0].reason;
   }
 }
 
@@ -87,8 +86,7 @@ TEST(PackRefusals, MoreLinesThanTheReaderCounts) {
   std::string many = "[Misc-A]\n";
   for (int i = 0; i < 20000; ++i) many += "x\n";
   EXPECT_TRUE(Refusals({{"Misc.001.txt", many}}).empty());
-  const std::vector<Diagnostic> overFamily =
-      Refusals({{"Misc.001.txt", many}, {"Misc.002.txt", many}});
+  const std::vector<Diagnostic> overFamily = Refusals({{"Misc.001.txt", many}, {"Misc.002.txt", many}});
   ASSERT_EQ(overFamily.size(), 1u);
   EXPECT_EQ(overFamily[0].line, 1);
   EXPECT_NE(overFamily[0].reason.find("40000 data lines"), std::string::npos);
@@ -136,19 +134,17 @@ TEST(PackRoundTrip, UnpackGivesBackCanonicalSourcesByteForByte) {
 TEST(PackRoundTrip, TheProgramReadsEachDataLineAsWritten) {
   TempDir root;
   root.Write("System/Misc.001", Pack(kCanonical));
-  EXPECT_EQ(
-      ReadList(root.Path(), "Misc-Jeerbox-Noun"),
-      (std::vector<std::string>{"turnip", "caf\xe9 owner", ";semicolon first", "[bracket first",
-                                "@at first", "\\backslash first", "{soggy/damp} <Insult>"}));
+  EXPECT_EQ(ReadList(root.Path(), "Misc-Jeerbox-Noun"),
+            (std::vector<std::string>{"turnip", "caf\xe9 owner", ";semicolon first", "[bracket first",
+                                      "@at first", "\\backslash first", "{soggy/damp} <Insult>"}));
   EXPECT_EQ(ReadList(root.Path(), "Misc-Jeerbox-Adjective"), std::vector<std::string>{"odious"});
 }
 
 TEST(PackRoundTrip, CrLfSourcesAndHeadsRightBehindDataReadTheSame) {
   // CR LF line ends, no final line end, a head straight after a data line.
   const std::string packed = Pack("[Misc-A]\r\none\r\ntwo\r\n[Misc-B]\r\nthree");
-  EXPECT_EQ(packed, "[" + SimpleCrypt("Misc-A") + "]\r\n" + SimpleCrypt("one") + "\r\n" +
-                        SimpleCrypt("two") + "\r\n\r\n[" + SimpleCrypt("Misc-B") + "]\r\n" +
-                        SimpleCrypt("three") + "\r\n");
+  EXPECT_EQ(packed, "[" + SimpleCrypt("Misc-A") + "]\r\n" + SimpleCrypt("one") + "\r\n" + SimpleCrypt("two") +
+                        "\r\n\r\n[" + SimpleCrypt("Misc-B") + "]\r\n" + SimpleCrypt("three") + "\r\n");
   TempDir root;
   root.Write("System/Misc.001", packed);
   EXPECT_EQ(ReadList(root.Path(), "Misc-A"), (std::vector<std::string>{"one", "two"}));
@@ -175,8 +171,7 @@ TEST(PackRoundTrip, UnpackThenPackReadsTheSameLists) {
   after.Write("System/Misc.001", Pack(source));
   for (const char* key : {"Misc-A", "Misc-B"})
     EXPECT_EQ(ReadList(before.Path(), key), ReadList(after.Path(), key)) << key;
-  EXPECT_NE(DirContents(after.Path() + "/System")["Misc.001"].find(SimpleCrypt("<XT>")),
-            std::string::npos);
+  EXPECT_NE(DirContents(after.Path() + "/System")["Misc.001"].find(SimpleCrypt("<XT>")), std::string::npos);
 }
 
 TEST(Unpack, RefusesWhatASourceCannotHold) {

@@ -26,8 +26,7 @@ std::vector<std::string> Expansions(const std::string& line) {
   size_t start = 0;
   for (;;) {
     const size_t slash = inner.find('/', start);
-    const std::string option =
-        inner.substr(start, slash == std::string::npos ? slash : slash - start);
+    const std::string option = inner.substr(start, slash == std::string::npos ? slash : slash - start);
     for (std::string& rest : Expansions(line.substr(close + 1)))
       out.push_back(line.substr(0, open) + option + rest);
     if (slash == std::string::npos) break;
@@ -58,8 +57,7 @@ class ShippedWords : public ::testing::Test {
     for (const std::string& name : names) {
       if (name.size() < 4 || name.substr(name.size() - 4) != ".txt") continue;
       sources.push_back({name, ""});
-      ASSERT_TRUE(
-          ReadFileBytes(std::string(WORDS_DIR) + "/" + name, &sources.back().bytes, &error));
+      ASSERT_TRUE(ReadFileBytes(std::string(WORDS_DIR) + "/" + name, &sources.back().bytes, &error));
     }
     sResult = new PackResult(PackSources(sources));
     sRoot = new TempDir;
@@ -69,9 +67,7 @@ class ShippedWords : public ::testing::Test {
     delete sRoot;
     delete sResult;
   }
-  static std::vector<std::string> List(const std::string& key) {
-    return ReadList(sRoot->Path(), key);
-  }
+  static std::vector<std::string> List(const std::string& key) { return ReadList(sRoot->Path(), key); }
 
   static PackResult* sResult;
   static TempDir* sRoot;

@@ -16,12 +16,12 @@ TEST(FixArticle, TurnsASeparateLowerCaseAIntoAnBeforeAVowel) {
       {"such a ", "oaf ", "such an "},
       {"  such a   ", "Eel ", "such an "},  // trimmed; upper-case vowel counts
       {"such a ", "toad ", "such a "},
-      {"a ", "oaf ", "a "},                    // no blank in front of the a
+      {"a ", "oaf ", "a "},  // no blank in front of the a
       {"such A ", "oaf ", "such A "},
       {"quite a bit of a ", "uncle ", "quite a bit of an "},
       {"a banana ", "oaf ", "a banana "},
       {"such a ", "", "such a "},
-      {"such a ", "\xc9lan ", "such a "},       // only a, e, i, o, u count
+      {"such a ", "\xc9lan ", "such a "},  // only a, e, i, o, u count
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string(c.phrase) + "|" + c.next);
@@ -119,9 +119,16 @@ TEST(ShorthandFunctions, EachFetchesItsOwnGeneralKey) {
   FakeFileSystem fs;
   gAppPath = "C:\\app";
   ScrambledWriter writer;
-  writer.Section("General-Character").Line("Pip").Section("General-Insult").Line("toad")
-      .Section("General-Curse").Line("drat").Section("General-Exclaim").Line("gadzooks")
-      .Section("General-AutoDealer").Line("Honest Ron");
+  writer.Section("General-Character")
+      .Line("Pip")
+      .Section("General-Insult")
+      .Line("toad")
+      .Section("General-Curse")
+      .Line("drat")
+      .Section("General-Exclaim")
+      .Line("gadzooks")
+      .Section("General-AutoDealer")
+      .Line("Honest Ron");
   fs.Write("C:\\app\\System\\General.001", writer.Bytes());
   EXPECT_EQ(RandomCharacter(), "Pip");
   EXPECT_EQ(RandomInsult(), "toad");

@@ -37,8 +37,9 @@ std::string ToneWav(double seconds, double frequency = 440.0) {
   }
   auto u32 = [](uint32_t v) { return std::string{char(v), char(v >> 8), char(v >> 16), char(v >> 24)}; };
   auto u16 = [](uint16_t v) { return std::string{char(v), char(v >> 8)}; };
-  return "RIFF" + u32(36 + static_cast<uint32_t>(data.size())) + "WAVEfmt " + u32(16) + u16(1) + u16(1) + u32(rate) +
-         u32(rate * 2) + u16(2) + u16(16) + "data" + u32(static_cast<uint32_t>(data.size())) + data;
+  return "RIFF" + u32(36 + static_cast<uint32_t>(data.size())) + "WAVEfmt " + u32(16) + u16(1) + u16(1) +
+         u32(rate) + u32(rate * 2) + u16(2) + u16(16) + "data" + u32(static_cast<uint32_t>(data.size())) +
+         data;
 }
 
 struct Energy {
@@ -278,7 +279,7 @@ TEST_F(SdlAudioTest, SweepsAndResetsWorkOnEmptyChannelsAndAfterClosing) {
   EXPECT_FALSE(control.LoadChannel(mDir.Path() + "\\missing.wav"));
   EXPECT_TRUE(control.PlayChannel(false));  // the tone stayed loaded
   EXPECT_TRUE(control.ResetMixer());
-  EXPECT_FALSE(control.PlayChannel(false));  // the reset freed it
+  EXPECT_FALSE(control.PlayChannel(false));                // the reset freed it
   EXPECT_TRUE(control.OpenMixer(0, 44100, false, false));  // already open
   EXPECT_TRUE(control.CloseMixer());
   EXPECT_FALSE(control.IsOpen());

@@ -101,7 +101,8 @@ TEST_F(ProfileTest, WriteCreatesTheFileAndReadsBack) {
 }
 
 TEST_F(ProfileTest, WriteReplacesOneValueAndKeepsEveryOtherLine) {
-  mFiles.Write(kFile, "; made by hand\r\n[Other]\r\nEnableFX=7\r\n\r\n[TW]\r\n  enablefx = True \r\nX=1\r\n\r\n");
+  mFiles.Write(kFile,
+               "; made by hand\r\n[Other]\r\nEnableFX=7\r\n\r\n[TW]\r\n  enablefx = True \r\nX=1\r\n\r\n");
   EXPECT_TRUE(WritePrivateProfileStringA("TW", "EnableFX", "False", kFile));
   EXPECT_TRUE(WritePrivateProfileStringA("TW", "New", "v", kFile));
   EXPECT_TRUE(WritePrivateProfileStringA("Third", "K", "w", kFile));
@@ -127,7 +128,8 @@ TEST(ProfileOnDisk, WriteReplacesTheFileWholeAndLeavesNothingBehind) {
   ASSERT_EQ(stat((dir.Path() + "/UserInfo/Tallowick.cfg").c_str(), &after), 0);
   EXPECT_NE(before.st_ino, after.st_ino);
   int entries = 0;
-  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir.Path() + "/UserInfo")) ++entries;
+  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir.Path() + "/UserInfo"))
+    ++entries;
   EXPECT_EQ(entries, 1);  // no temporary file left
   char buffer[16];
   EXPECT_EQ(GetPrivateProfileStringA("TW", "EnableFX", "", buffer, 16, file), 5);

@@ -48,8 +48,12 @@ class FDMCTest : public ::testing::Test {
 
 // Centre for a first draw below one half; otherwise a second draw picks the side.
 std::vector<std::string> EffectCalls(int channel, int pan, const std::string& file) {
-  return {"Channel=" + std::to_string(channel), "StopChannel", "ClearChannel",
-          "ChannelPan=" + std::to_string(pan), "LoadChannel(" + file + ")", "PlayChannel(false)"};
+  return {"Channel=" + std::to_string(channel),
+          "StopChannel",
+          "ClearChannel",
+          "ChannelPan=" + std::to_string(pan),
+          "LoadChannel(" + file + ")",
+          "PlayChannel(false)"};
 }
 
 TEST_F(FDMCTest, BothSwitchesOffOnlyResetsTheMixerInSetupAndUnload) {
@@ -72,7 +76,8 @@ TEST_F(FDMCTest, BothSwitchesOffOnlyResetsTheMixerInSetupAndUnload) {
 
 // Each combination with at least one switch on opens the mixer and sweeps
 // all 32 channels on the way out, whatever the switch.
-class OneSwitchOnTest : public FDMCTest, public ::testing::WithParamInterface<std::tuple<std::string, std::string>> {};
+class OneSwitchOnTest : public FDMCTest,
+                        public ::testing::WithParamInterface<std::tuple<std::string, std::string>> {};
 
 TEST_P(OneSwitchOnTest, OpensTheMixerAndSweepsAllChannelsOnShutdown) {
   WriteSwitches(std::get<0>(GetParam()), std::get<1>(GetParam()));
@@ -204,7 +209,8 @@ TEST_F(FDMCTest, FailingControlCallsNeverStopTheNextOne) {
   form.PlayGameSoundBG(kLaugh, true);
   form.Shutdown();
   std::vector<std::string> expected = Joined({"ResetMixer", kOpen}, EffectCalls(1, 0, kLaugh));
-  expected = Joined(expected, {"StopMusic", "CloseMusic", "LoadMusic(" + std::string(kLaugh) + ")", "PlayMusic(true)"});
+  expected = Joined(expected,
+                    {"StopMusic", "CloseMusic", "LoadMusic(" + std::string(kLaugh) + ")", "PlayMusic(true)"});
   expected = Joined(Joined(expected, Joined({"ResetMixer"}, SweepCalls())), {"CloseMusic", "CloseMixer"});
   EXPECT_THAT(mControl.Log(), ElementsAreArray(expected));
 }

@@ -56,14 +56,16 @@ TEST_F(SettingsTest, ReadGeneralSettingTakesFileAndSectionFromTheCaller) {
 }
 
 TEST(SettingToBoolean, TakesWordsInAnyCaseAndNumbers) {
-  for (const char* text : {"True", "TRUE", "true", "tRuE", " true ", "1", "-1", "+2", "0.5", ".5", "1e3", "10", "-0.01"})
+  for (const char* text :
+       {"True", "TRUE", "true", "tRuE", " true ", "1", "-1", "+2", "0.5", ".5", "1e3", "10", "-0.01"})
     EXPECT_TRUE(SettingToBoolean(text, false)) << text;
   for (const char* text : {"False", "FALSE", "false", "0", "-0", "0.000", "0e5", " 0 ", "00"})
     EXPECT_FALSE(SettingToBoolean(text, true)) << text;
 }
 
 TEST(SettingToBoolean, OtherTextGivesTheFallback) {
-  for (const char* text : {"", "yes", "no", "on", "1abc", "nan", "inf", "0x10", ".", "-", "1e", "1.2.3", "tru", "true1"}) {
+  for (const char* text :
+       {"", "yes", "no", "on", "1abc", "nan", "inf", "0x10", ".", "-", "1e", "1.2.3", "tru", "true1"}) {
     EXPECT_TRUE(SettingToBoolean(text, true)) << text;
     EXPECT_FALSE(SettingToBoolean(text, false)) << text;
   }

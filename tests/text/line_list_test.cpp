@@ -58,7 +58,8 @@ TEST(LineList, AgreesWithThePlainSplitOnArbitraryText) {
 
 TEST(LineList, IndexesAcrossSectionsAndCheckpoints) {
   std::string first, second;
-  for (int i = 0; i < 3000; ++i) first += "\r\nline " + std::to_string(i) + (i % 7 == 0 ? "\r\n;c\r\n  " : "");
+  for (int i = 0; i < 3000; ++i)
+    first += "\r\nline " + std::to_string(i) + (i % 7 == 0 ? "\r\n;c\r\n  " : "");
   for (int i = 0; i < 50; ++i) second += "\r\nmore " + std::to_string(i);
   LineList list;
   list.AppendSection(first);

@@ -68,7 +68,8 @@ TEST_F(StoreTest, LastSectionWithAndWithoutFinalLineEnd) {
 
 TEST_F(StoreTest, MarkedFilesCountOnlyWhileMarkedTextIsAllowed) {
   WriteLists("Misc.001", {{"Misc-A", {"plain"}}});
-  WriteFile("Misc.002", ScrambledWriter().Comment("extra " + SimpleCrypt("<XT>")).Section("Misc-A").Line("marked"));
+  WriteFile("Misc.002",
+            ScrambledWriter().Comment("extra " + SimpleCrypt("<XT>")).Section("Misc-A").Line("marked"));
   EXPECT_EQ(Lines("Misc-A"), (std::vector<std::string>{"plain", "marked"}));
   gAllowMarkedText = false;
   EXPECT_EQ(Lines("Misc-A"), (std::vector<std::string>{"plain"}));

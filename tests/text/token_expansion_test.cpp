@@ -53,8 +53,8 @@ TEST_F(TokenTest, AMissingFamilyBringsTheFixedText) {
 }
 
 TEST_F(TokenTest, ASelfFetchingTokenEndsQuickly) {
-  WriteLists("General.001", {{"General-Insult", {"<Insult> <Insult> <Curse>"}},
-                             {"General-Curse", {"<Insult><Curse>"}}});
+  WriteLists("General.001",
+             {{"General-Insult", {"<Insult> <Insult> <Curse>"}}, {"General-Curse", {"<Insult><Curse>"}}});
   const auto start = std::chrono::steady_clock::now();
   const std::string text = Game("<Insult>");
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
