@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -25,22 +26,30 @@ namespace {
 
 constexpr size_t kFileBytes = 100 * 1000;
 
-// One directory per family size, written on first use and removed at exit.
+// One directory per family size, written on first use. They go under
+// JEERBOX_SCALE_DATA when it is set, written only when missing and kept for
+// the next run; otherwise under fresh temporary directories removed at exit.
 class ScaledFamilies {
  public:
   ~ScaledFamilies() {
     std::error_code ignored;
-    for (const auto& [files, root] : mRoots) std::filesystem::remove_all(root, ignored);
+    if (Shared().empty())
+      for (const auto& [files, root] : mRoots) std::filesystem::remove_all(root, ignored);
   }
   const std::string& Root(int files) {
     auto found = mRoots.find(files);
     if (found != mRoots.end()) return found->second;
-    std::string root = MakeTempDir();
-    WriteScaledFamily(root, files, kFileBytes);
+    std::string root = Shared().empty() ? MakeTempDir() : Shared() + "/" + std::to_string(files);
+    const std::string last = root + "/System/Misc." + std::string(files < 10 ? "00" : files < 100 ? "0" : "") + std::to_string(files);
+    if (!std::filesystem::exists(last)) WriteScaledFamily(root, files, kFileBytes);
     return mRoots[files] = root;
   }
 
  private:
+  static std::string Shared() {
+    const char* shared = std::getenv("JEERBOX_SCALE_DATA");
+    return shared ? shared : "";
+  }
   std::map<int, std::string> mRoots;
 };
 
@@ -69,18 +78,42 @@ void BM_SentenceFromFamily(benchmark::State& state) {
   state.counters["files_read"] = static_cast<double>(filesRead);
   state.counters["max_reads_per_file"] = mostReads;
 }
+
+// Exactly `count` sentences with no timing, for counting instructions
+// under callgrind (--toggle-collect=jeerbox::GenerateInsult*).
+int RunSentences(int files, int count) {
+  gAppPath = gFamilies.Root(files);
+  CountingFileSystem counting;
+  ScopedFileSystem scoped(&counting);
+  SeedRandom(3);
+  size_t filesRead = 0;
+  int mostReads = 0;
+  for (int i = 0; i < count; ++i) {
+    counting.Reset();
+    benchmark::DoNotOptimize(GenerateInsult());
+    filesRead = std::max(filesRead, counting.FilesRead());
+    mostReads = std::max(mostReads, counting.MostReadsOfOneFile());
+  }
+  std::printf("files=%d sentences=%d files_read=%zu max_reads_per_file=%d\n", files, count, filesRead, mostReads);
+  return 0;
+}
+
 }  // namespace
 }  // namespace jeerbox::bench
 
 // --files=N (repeatable) picks the family sizes; all four by default. A
-// size run in a process of its own starts with a fresh heap, as a program
-// does. Every family is written and flushed before the first measurement.
+// size run in a process of its own doesn't inherit the heap of another.
+// Every family is written and flushed before the first measurement.
+// --sentences=N composes N sentences per size untimed instead.
 int main(int argc, char** argv) {
   using namespace jeerbox::bench;
   std::vector<int> sizes;
+  int sentences = 0;
   int kept = 1;
   for (int i = 1; i < argc; ++i) {
-    if (std::strncmp(argv[i], "--files=", 8) == 0) {
+    if (std::strncmp(argv[i], "--sentences=", 12) == 0) {
+      sentences = std::atoi(argv[i] + 12);
+    } else if (std::strncmp(argv[i], "--files=", 8) == 0) {
       const int files = std::atoi(argv[i] + 8);
       if (files < 1 || files > jeerbox::kMaxFileNumber) {
         std::fprintf(stderr, "scale_bench: --files takes 1 to %d\n", jeerbox::kMaxFileNumber);
@@ -93,6 +126,10 @@ int main(int argc, char** argv) {
   }
   argc = kept;
   if (sizes.empty()) sizes = {1, 10, 100, 999};
+  if (sentences > 0) {
+    for (int files : sizes) RunSentences(files, sentences);
+    return 0;
+  }
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
   for (int files : sizes) {
