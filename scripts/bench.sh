@@ -184,7 +184,9 @@ scale_rows=$(awk -F'\t' '
   echo
   echo "Sentences per second is Google Benchmark's median of $reps repetitions of \`GenerateInsult\`, one"
   echo "generator per sentence, the files read from disk each time; polygen's rate is its user + system time"
-  echo "for $polygen_n sentences in one process. The scale rows run each family size in a process of its own"
-  echo "(a fresh heap, as a program has), the reads counted by a counting file system around the real one."
+  echo "for $polygen_n sentences in one process. The scale rows run each family size in a process of its own,"
+  echo "so no size inherits another's heap; the reads are counted by a counting file system around the real"
+  echo "one, and the instructions by callgrind over two sentences."
+  if [ -f bench/analysis.md ]; then echo; cat bench/analysis.md; fi
 } >"$out"
 cat "$out"
