@@ -61,13 +61,14 @@ void Write(const fs::path& path, const std::string& bytes) {
   }
 }
 
-std::string FileName(const char* prefix, int number) {
+
+}  // namespace
+
+std::string FamilyFileName(const char* prefix, int number) {
   char name[32];
   std::snprintf(name, sizeof name, "%s.%03d", prefix, number);
   return name;
 }
-
-}  // namespace
 
 std::string MakeTempDir() {
   std::string pattern = (fs::temp_directory_path() / "jeerbox-bench-XXXXXX").string();
@@ -99,7 +100,7 @@ void WriteScaledFamily(const std::string& root, int files, size_t fileBytes) {
       const size_t cut = bytes.rfind("\r\n", fileBytes - 2);
       if (cut != std::string::npos) bytes.resize(cut + 2);
     }
-    Write(system / FileName("Misc", n), bytes);
+    Write(system / FamilyFileName("Misc", n), bytes);
   }
 }
 
@@ -111,7 +112,7 @@ BenchData::BenchData(const std::string& givenRoot) : mRoot(givenRoot) {
   }
   std::error_code error;
   for (int n = 1; n <= 999; ++n) {
-    const auto size = fs::file_size(fs::path(mRoot) / "System" / FileName("Misc", n), error);
+    const auto size = fs::file_size(fs::path(mRoot) / "System" / FamilyFileName("Misc", n), error);
     if (error) break;
     mFamilyBytes += static_cast<size_t>(size);
     mFamilyFiles = n;

@@ -37,6 +37,9 @@ void WriteBenchData(const std::string& root);
 // bytes and each holding every key a sentence asks for.
 void WriteScaledFamily(const std::string& root, int files, size_t fileBytes);
 
+// "Misc.007" for ("Misc", 7).
+std::string FamilyFileName(const char* prefix, int number);
+
 // A fresh directory under the temporary directory.
 std::string MakeTempDir();
 

@@ -3,19 +3,19 @@
 // read once by the sentence's generator (the counters say how often).
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <map>
 #include <vector>
 
 #include <unistd.h>
 
 #include "bench_data.h"
-#include "counting_file_system.h"
 #include "compose/MJeerbox.h"
+#include "counting_file_system.h"
 #include "platform/memory_file_system.h"
 #include "platform/random.h"
 #include "support/globals.h"
@@ -40,8 +40,9 @@ class ScaledFamilies {
     auto found = mRoots.find(files);
     if (found != mRoots.end()) return found->second;
     std::string root = Shared().empty() ? MakeTempDir() : Shared() + "/" + std::to_string(files);
-    const std::string last = root + "/System/Misc." + std::string(files < 10 ? "00" : files < 100 ? "0" : "") + std::to_string(files);
-    if (!std::filesystem::exists(last)) WriteScaledFamily(root, files, kFileBytes);
+    // A family whose last file is there was written whole by an earlier run.
+    if (!std::filesystem::exists(root + "/System/" + FamilyFileName("Misc", files)))
+      WriteScaledFamily(root, files, kFileBytes);
     return mRoots[files] = root;
   }
 
