@@ -47,3 +47,13 @@ fuzz: deps
 	@cmake --build --preset fuzz -j $(JOBS)
 	@for t in $(FUZZ_TARGETS); do echo "== fuzz_$$t ($(FUZZ_SECONDS) s)"; \
 	  scripts/fuzz.sh $(CURDIR)/build/fuzz/fuzz/fuzz_$$t fuzz/corpus/$$t $(FUZZ_SECONDS) || exit 1; done
+
+# Every benchmark against its reference (fortune, polygen, a minimal Qt
+# dialog), in one go on a release build; writes bench/results.md. Installs
+# the peers from Debian first (scripts/install-bench-deps.sh).
+.PHONY: bench
+bench:
+	@scripts/install-bench-deps.sh
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release -j $(JOBS)
+	@scripts/bench.sh build/release

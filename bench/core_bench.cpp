@@ -1,10 +1,16 @@
 // How fast sentences come, against the bare cost of reading the word-list
 // family once: a sentence reads its family's files once per generator.
+// Runs on generated word lists, or on a program directory given with
+// --root=DIR or JEERBOX_BENCH_ROOT (the shipped one, say).
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
 #include "bench_data.h"
-#include "platform/memory_file_system.h"
 #include "compose/MJeerbox.h"
+#include "platform/memory_file_system.h"
 #include "platform/random.h"
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
@@ -13,10 +19,11 @@
 namespace jeerbox::bench {
 namespace {
 
+std::unique_ptr<BenchData> gData;
+
 BenchData& Data() {
-  static BenchData data;
-  gAppPath = data.Root();
-  return data;
+  gAppPath = gData->Root();
+  return *gData;
 }
 
 void BM_GenerateInsult(benchmark::State& state) {
@@ -33,11 +40,11 @@ void BM_GenerateInsult(benchmark::State& state) {
 }
 BENCHMARK(BM_GenerateInsult);
 
-// The floor: what reading Misc.001, Misc.002 and probing Misc.003 costs.
+// The floor: reading Misc.001 up to the last one and probing the next.
 void BM_ReadFamilyOnce(benchmark::State& state) {
   BenchData& data = Data();
   for (auto _ : state) {
-    for (int n = 1; n <= 3; ++n) {
+    for (int n = 1; n <= data.FamilyFiles() + 1 && n <= kMaxFileNumber; ++n) {
       const std::string path = CTextGenerator::BuildTextFileName("Misc-Jeerbox-Noun", n);
       std::string bytes = ReadWholeFile(path);
       benchmark::DoNotOptimize(bytes);
@@ -53,9 +60,11 @@ void BM_GenerateInsultInMemory(benchmark::State& state) {
   Data();
   MemoryFileSystem memory;
   for (const char* key : {"Misc-X", "General-X"})
-    for (int n = 1; n <= 2; ++n) {
+    for (int n = 1; n <= kMaxFileNumber; ++n) {
       const std::string path = CTextGenerator::BuildTextFileName(key, n);
-      memory.Write(path, ReadWholeFile(path));
+      std::string bytes;
+      if (CurrentFileSystem().ReadFile(path, &bytes) != FileStatus::kOk) break;
+      memory.Write(path, bytes);
     }
   ScopedFileSystem scoped(&memory);
   SeedRandom(1);
@@ -78,7 +87,46 @@ void BM_PickOneKey(benchmark::State& state) {
 }
 BENCHMARK(BM_PickOneKey);
 
+// Takes out the options that are ours; Google Benchmark sees the rest.
+struct Options {
+  std::string root;
+  std::string writeData;
+};
+
+Options TakeOptions(int* argc, char** argv) {
+  Options options;
+  if (const char* env = std::getenv("JEERBOX_BENCH_ROOT")) options.root = env;
+  int kept = 1;
+  for (int i = 1; i < *argc; ++i) {
+    if (std::strncmp(argv[i], "--root=", 7) == 0)
+      options.root = argv[i] + 7;
+    else if (std::strncmp(argv[i], "--write-data=", 13) == 0)
+      options.writeData = argv[i] + 13;
+    else
+      argv[kept++] = argv[i];
+  }
+  *argc = kept;
+  return options;
+}
+
 }  // namespace
 }  // namespace jeerbox::bench
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  using namespace jeerbox::bench;
+  const Options options = TakeOptions(&argc, argv);
+  if (!options.writeData.empty()) {
+    WriteBenchData(options.writeData);
+    return 0;
+  }
+  gData = std::make_unique<BenchData>(options.root);
+  benchmark::AddCustomContext("data", gData->Generated() ? "generated" : gData->Root());
+  benchmark::AddCustomContext("misc_files", std::to_string(gData->FamilyFiles()));
+  benchmark::AddCustomContext("misc_bytes", std::to_string(gData->FamilyBytes()));
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  gData.reset();
+  return 0;
+}
