@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 const char* kSyllables[] = {"bor", "quim", "ble", "snor", "wid", "gle", "pud", "ding", "fla", "dunk",
-                            "mer", "tosh", "ver", "bos", "nit", "wit", "tur", "nip", "gob", "lin"};
+                            "mer", "tosh", "ver", "bos",  "nit", "wit", "tur", "nip",  "gob", "lin"};
 
 std::string Word(unsigned seed, int syllables) {
   std::string word;
@@ -36,7 +36,9 @@ std::string Build(const std::vector<Section>& sections, unsigned salt) {
     for (int i = 0; i < s.lines; ++i) {
       std::string line;
       for (int w = 0; w < s.words; ++w)
-        line += (w ? " " : "") + Word((static_cast<unsigned>(i) * 2654435761u) ^ salt ^ static_cast<unsigned>(w * 97), 2 + w % 2);
+        line +=
+            (w ? " " : "") +
+            Word((static_cast<unsigned>(i) * 2654435761u) ^ salt ^ static_cast<unsigned>(w * 97), 2 + w % 2);
       if (i % 10 == 0) line += " {indeed/truly/verily}";
       out += SimpleCrypt(line) + "\r\n";
     }
@@ -61,7 +63,6 @@ void Write(const fs::path& path, const std::string& bytes) {
   }
 }
 
-
 }  // namespace
 
 std::string FamilyFileName(const char* prefix, int number) {
@@ -80,8 +81,10 @@ void WriteBenchData(const std::string& root) {
   const fs::path system = fs::path(root) / "System";
   fs::create_directories(system);
   Write(system / "Misc.001", Build(SentenceSections(1), 1));
-  Write(system / "Misc.002", Build({{"Misc-Jeerbox-Adjective", 400, 1}, {"Misc-Jeerbox-Noun", 400, 1},
-                                    {"Misc-Jeerbox-Someone", 100, 2}}, 2));
+  Write(system / "Misc.002", Build({{"Misc-Jeerbox-Adjective", 400, 1},
+                                    {"Misc-Jeerbox-Noun", 400, 1},
+                                    {"Misc-Jeerbox-Someone", 100, 2}},
+                                   2));
   Write(system / "General.001", Build({{"General-Insult", 60, 3}, {"General-Curse", 60, 2}}, 3));
 }
 

@@ -35,7 +35,8 @@ void BM_GenerateInsult(benchmark::State& state) {
     bytes += sentence.size();
     benchmark::DoNotOptimize(sentence);
   }
-  state.counters["sentences/s"] = benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+  state.counters["sentences/s"] =
+      benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
   state.counters["avg_chars"] = static_cast<double>(bytes) / static_cast<double>(state.iterations());
 }
 BENCHMARK(BM_GenerateInsult);
@@ -51,7 +52,8 @@ void BM_ReadFamilyOnce(benchmark::State& state) {
     }
   }
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * data.FamilyBytes()));
-  state.counters["reads/s"] = benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+  state.counters["reads/s"] =
+      benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 BENCHMARK(BM_ReadFamilyOnce);
 
@@ -72,7 +74,8 @@ void BM_GenerateInsultInMemory(benchmark::State& state) {
     std::string sentence = GenerateInsult();
     benchmark::DoNotOptimize(sentence);
   }
-  state.counters["sentences/s"] = benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+  state.counters["sentences/s"] =
+      benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 BENCHMARK(BM_GenerateInsultInMemory);
 

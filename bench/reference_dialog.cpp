@@ -20,9 +20,8 @@ int main(int argc, char** argv) {
   press->setDefault(true);
 
   int presses = 0;
-  QObject::connect(press, &QPushButton::clicked, [&] {
-    label->setText(QString("Pressed %1 times, and still here.").arg(++presses));
-  });
+  QObject::connect(press, &QPushButton::clicked,
+                   [&] { label->setText(QString("Pressed %1 times, and still here.").arg(++presses)); });
   QObject::connect(close, &QPushButton::clicked, &dialog, &QDialog::accept);
 
   auto* buttons = new QHBoxLayout;

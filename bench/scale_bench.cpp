@@ -95,7 +95,8 @@ int RunSentences(int files, int count) {
     filesRead = std::max(filesRead, counting.FilesRead());
     mostReads = std::max(mostReads, counting.MostReadsOfOneFile());
   }
-  std::printf("files=%d sentences=%d files_read=%zu max_reads_per_file=%d\n", files, count, filesRead, mostReads);
+  std::printf("files=%d sentences=%d files_read=%zu max_reads_per_file=%d\n", files, count, filesRead,
+              mostReads);
   return 0;
 }
 
@@ -136,7 +137,9 @@ int main(int argc, char** argv) {
   for (int files : sizes) {
     gFamilies.Root(files);
     benchmark::RegisterBenchmark("BM_SentenceFromFamily", BM_SentenceFromFamily)
-        ->Arg(files)->UseRealTime()->Unit(benchmark::kMillisecond);
+        ->Arg(files)
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond);
   }
   sync();
   benchmark::RunSpecifiedBenchmarks();

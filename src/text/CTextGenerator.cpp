@@ -6,8 +6,8 @@
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
 #include "text/CTextUtils.h"
-#include "text/find_bytes.h"
 #include "text/MSimpleCrypto.h"
+#include "text/find_bytes.h"
 
 namespace jeerbox {
 namespace {
@@ -41,8 +41,7 @@ std::string CTextGenerator::PickText(const std::string& key) {
   const std::string_view line = lines[static_cast<size_t>(RandomIndex(static_cast<int>(lines.size())))];
   if (line.empty()) return kMissingFilesText;
   std::string text = SimpleCrypt(line);
-  text = CTextUtils::ParseGameTokens(std::move(text), mCityName, mPlayerName, mWeaponName,
-                                     mRatingName);
+  text = CTextUtils::ParseGameTokens(std::move(text), mCityName, mPlayerName, mWeaponName, mRatingName);
   text = CTextUtils::ParseInlineTokens(std::move(text));
   return Trim(text);
 }
@@ -88,7 +87,8 @@ const CTextGenerator::Family& CTextGenerator::FamilyOf(const std::string& key) {
 bool CTextGenerator::ReadTextFile(const std::string& fileName, TextFile* file) {
   IFileSystem& fs = CurrentFileSystem();
   const FileStatus status = fs.ReadFile(fileName, &file->bytes);
-  if (status == FileStatus::kNotFound || (status == FileStatus::kError && !fs.FileExists(fileName))) return false;
+  if (status == FileStatus::kNotFound || (status == FileStatus::kError && !fs.FileExists(fileName)))
+    return false;
   if (status != FileStatus::kOk) file->bytes.clear();
   file->allowed = FindBytes(file->bytes, ScrambledMarker()) == std::string::npos || gAllowMarkedText;
   return true;

@@ -16,7 +16,6 @@
 
 namespace jeerbox {
 
-
 // What a pick yields when the key's files or lines are missing.
 constexpr const char* kMissingFilesText = "## System files missing - please reinstall ##";
 

@@ -13,8 +13,7 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
   std::string out;
   if (from.empty()) return std::string(text);
   size_t start = 0;
-  for (size_t hit = text.find(from); hit != std::string_view::npos;
-       hit = text.find(from, start)) {
+  for (size_t hit = text.find(from); hit != std::string_view::npos; hit = text.find(from, start)) {
     out.append(text.substr(start, hit - start));
     out.append(to);
     start = hit + from.size();
@@ -24,8 +23,7 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
 }
 
 std::string CTextUtils::ParseGameTokens(std::string text, const std::string& cityName,
-                                        const std::string& playerName,
-                                        const std::string& weaponName,
+                                        const std::string& playerName, const std::string& weaponName,
                                         const std::string& ratingName) {
   if (text.find('<') == std::string::npos) return text;
   const std::pair<const char*, const std::string*> fixed[] = {
@@ -43,16 +41,14 @@ std::string CTextUtils::ParseGameTokens(std::string text, const std::string& cit
   return text;
 }
 
-std::string CTextUtils::ReadSectionFromFile(const std::string& sectionName,
-                                            const std::string& fileName) {
+std::string CTextUtils::ReadSectionFromFile(const std::string& sectionName, const std::string& fileName) {
   const std::string text = ReadWholeFile(fileName);
   return std::string(ReadSectionFromText(sectionName, text));
 }
 
 // The section starts behind the character that follows the match (the "]"
 // of its head, not tested) and ends with the CR of the next CR LF "[".
-std::string_view CTextUtils::ReadSectionFromText(std::string_view sectionName,
-                                                 std::string_view fileText) {
+std::string_view CTextUtils::ReadSectionFromText(std::string_view sectionName, std::string_view fileText) {
   const size_t match = FindBytes(fileText, sectionName);
   if (match == std::string_view::npos) return {};
   const size_t start = match + sectionName.size() + 1;
@@ -100,8 +96,7 @@ bool CTextUtils::ParseInlineToken(std::string* text) {
 
   std::vector<std::string_view> options;
   size_t start = 0;
-  for (size_t slash = inner.find('/'); slash != std::string_view::npos;
-       slash = inner.find('/', start)) {
+  for (size_t slash = inner.find('/'); slash != std::string_view::npos; slash = inner.find('/', start)) {
     options.push_back(inner.substr(start, slash - start));
     start = slash + 1;
   }

@@ -13,20 +13,16 @@ class CTextUtils {
   // Named tokens ("<Insult>" and the like), in their fixed order. A token
   // present in the text is looked up once and every occurrence replaced.
   static std::string ParseGameTokens(std::string text, const std::string& cityName,
-                                     const std::string& playerName,
-                                     const std::string& weaponName,
+                                     const std::string& playerName, const std::string& weaponName,
                                      const std::string& ratingName);
 
   // The raw text of the section whose scrambled key is `sectionName`, or "".
-  static std::string ReadSectionFromFile(const std::string& sectionName,
-                                         const std::string& fileName);
+  static std::string ReadSectionFromFile(const std::string& sectionName, const std::string& fileName);
   // The same on bytes already read.
-  static std::string_view ReadSectionFromText(std::string_view sectionName,
-                                              std::string_view fileText);
+  static std::string_view ReadSectionFromText(std::string_view sectionName, std::string_view fileText);
 
   // One element for each "[...]" line of the file, in file order.
-  static std::vector<std::string> ReadSectionNamesFromFile(const std::string& fileName,
-                                                           bool returnEncrypted);
+  static std::vector<std::string> ReadSectionNamesFromFile(const std::string& fileName, bool returnEncrypted);
 
   // Brace choices: up to 1000 passes, each resolving the first group.
   static std::string ParseInlineTokens(std::string text);

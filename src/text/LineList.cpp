@@ -13,7 +13,8 @@ size_t LineList::CountDataLines(std::string_view text, std::vector<Checkpoint>* 
     const bool data = first == ' ' || first == '\r' ? IsDataPiece(piece) : first != ';';
     if (!data) return true;
     if (count % kCheckpointLines == 0)
-      checkpoints->push_back({static_cast<uint32_t>(piece.data() - text.data()), static_cast<uint32_t>(count)});
+      checkpoints->push_back(
+          {static_cast<uint32_t>(piece.data() - text.data()), static_cast<uint32_t>(count)});
     ++count;
     return true;
   });

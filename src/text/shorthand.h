@@ -13,8 +13,8 @@ struct ShorthandToken {
 
 // In the order the token pass handles them.
 inline constexpr ShorthandToken kShorthandTokens[] = {
-    {"<RandomChar>", "General-Character"}, {"<Insult>", "General-Insult"},
-    {"<Curse>", "General-Curse"},          {"<Exclaim>", "General-Exclaim"},
+    {"<RandomChar>", "General-Character"},  {"<Insult>", "General-Insult"},
+    {"<Curse>", "General-Curse"},           {"<Exclaim>", "General-Exclaim"},
     {"<AutoDealer>", "General-AutoDealer"},
 };
 
