@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds and runs every test: the plain debug build first, then the same
 # suite under AddressSanitizer and UndefinedBehaviorSanitizer, then each
-# fuzz target over its corpus for a few seconds.
+# fuzz target over its corpus for a few seconds, then the lint.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 jobs=$(nproc)
@@ -21,3 +21,7 @@ export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
 presets=("${1:-default}")
 [ "${1:-default}" = default ] && presets+=(asan fuzz)
 for p in "${presets[@]}"; do run_suite "$p"; done
+if [ "${1:-default}" = default ]; then
+  echo "== lint"
+  scripts/lint.sh build/default
+fi
