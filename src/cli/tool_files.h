@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace jeerbox {
@@ -25,5 +26,9 @@ bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& 
 
 // Removes dir/name for each name; false with a reason at the first failure.
 bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names, std::string* error);
+
+// The lines of a System\ file split at CR LF, as the tools read them: no
+// final empty line behind a last CR LF.
+std::vector<std::string_view> SplitCrLf(std::string_view bytes);
 
 }  // namespace jeerbox

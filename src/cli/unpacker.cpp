@@ -9,18 +9,6 @@
 namespace jeerbox {
 namespace {
 
-std::vector<std::string_view> SplitCrLf(std::string_view bytes) {
-  std::vector<std::string_view> lines;
-  size_t start = 0;
-  while (start < bytes.size()) {
-    size_t end = bytes.find("\r\n", start);
-    if (end == std::string_view::npos) end = bytes.size();
-    lines.push_back(bytes.substr(start, end - start));
-    start = end + 2;
-  }
-  return lines;
-}
-
 bool IsHead(std::string_view line) { return line.size() >= 2 && line.front() == '[' && line.back() == ']'; }
 
 bool HoldsLineEnd(std::string_view text) { return text.find_first_of("\r\n") != std::string_view::npos; }
