@@ -46,7 +46,8 @@ int main(int argc, char** argv) {
     form.cmdInsult_Click();
     form.repaint();
     QApplication::processEvents();
-    micros.push_back(std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count());
+    micros.push_back(
+        std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count());
   }
   std::sort(micros.begin(), micros.end());
   auto at = [&](double q) { return micros[static_cast<size_t>(q * static_cast<double>(micros.size() - 1))]; };
