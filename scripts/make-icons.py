@@ -21,8 +21,8 @@ def read_xpm(path):
     width, height, ncolors, cpp = (int(v) for v in strings[0].split()[:4])
     palette = {}
     for entry in strings[1:1 + ncolors]:
-        key, spec = entry[:cpp], entry[cpp:].split()
-        value = spec[spec.index("c") + 1]
+        key, fields = entry[:cpp], entry[cpp:].split()
+        value = fields[fields.index("c") + 1]
         if value.lower() == "none":
             palette[key] = (0, 0, 0, 0)
         elif re.fullmatch(r"#[0-9A-Fa-f]{6}", value):
