@@ -68,6 +68,18 @@ class SdlAudioTest : public ::testing::Test {
     ASSERT_TRUE(control.PlayChannel(false));
   }
 
+  // What the driver wrote for the tone played alone on `channel` with `pan`,
+  // the mixer closed again.
+  Energy PlayedAlone(int channel, int pan) {
+    {
+      SdlAudioControl control;
+      EXPECT_TRUE(control.OpenMixer(0, 44100, false, false));
+      PlayTone(control, channel, pan);
+      WaitForQuiet();
+    }
+    return Written();
+  }
+
   static void WaitForQuiet() {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     while ((Mix_Playing(-1) > 0 || Mix_PlayingMusic()) && std::chrono::steady_clock::now() < deadline)
@@ -116,38 +128,20 @@ TEST_F(SdlAudioTest, OpensSixteenBitStereoAtTheAskedRate) {
 }
 
 TEST_F(SdlAudioTest, PlayedEffectIsHeardOnBothSidesInTheMiddle) {
-  {
-    SdlAudioControl control;
-    ASSERT_TRUE(control.OpenMixer(0, 44100, false, false));
-    PlayTone(control, 1, 0);
-    WaitForQuiet();
-  }
-  const Energy energy = Written();
+  const Energy energy = PlayedAlone(1, 0);
   EXPECT_GT(energy.peak, 5000);
   EXPECT_GT(energy.left, 0);
   EXPECT_NEAR(energy.left / energy.right, 1.0, 0.01);
 }
 
 TEST_F(SdlAudioTest, PanToTheLeftPutsTheEnergyOnTheLeft) {
-  {
-    SdlAudioControl control;
-    ASSERT_TRUE(control.OpenMixer(0, 44100, false, false));
-    PlayTone(control, 5, -90);
-    WaitForQuiet();
-  }
-  const Energy energy = Written();
+  const Energy energy = PlayedAlone(5, -90);
   EXPECT_GT(energy.peak, 5000);
   EXPECT_LT(energy.right, energy.left * 0.001);
 }
 
 TEST_F(SdlAudioTest, PanToTheRightPutsTheEnergyOnTheRight) {
-  {
-    SdlAudioControl control;
-    ASSERT_TRUE(control.OpenMixer(0, 44100, false, false));
-    PlayTone(control, 32, 90);
-    WaitForQuiet();
-  }
-  const Energy energy = Written();
+  const Energy energy = PlayedAlone(32, 90);
   EXPECT_GT(energy.peak, 5000);
   EXPECT_LT(energy.left, energy.right * 0.001);
 }
