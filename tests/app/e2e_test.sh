@@ -35,21 +35,7 @@ failures=0
 fail() { echo "FAIL: $*"; failures=$((failures + 1)); }
 pass() { echo "ok: $*"; }
 
-# A stand-in for the desktop's URL handler, first in PATH: it notes the URL.
-mkdir -p "$work/bin"
-cat > "$work/bin/xdg-open" <<EOS
-#!/bin/sh
-printf '%s\n' "\$*" >> "$work/opened"
-EOS
-chmod +x "$work/bin/xdg-open"
-export PATH="$work/bin:$PATH"
-
-# Every request to the maker's test host goes through this proxy, which
-# answers (404 is an answer) without any network.
-port=$(python3 -c 'import socket; s=socket.socket(); s.bind(("127.0.0.1",0)); print(s.getsockname()[1])')
-python3 -m http.server --bind 127.0.0.1 "$port" --directory "$work" >"$work/proxy.log" 2>&1 &
-pids+=($!)
-export http_proxy="http://127.0.0.1:$port"
+source "$(dirname "$0")/session_stand_ins.sh"
 
 start() {  # start ARGS...: starts jeerbox, sets $pid
   "$dir/jeerbox" "$@" >>"$work/jeerbox.log" 2>&1 &

@@ -34,14 +34,7 @@ cleanup() {
 trap cleanup EXIT
 [ -n "${JEERBOX_KEEP_TRACE:-}" ] && trap 'cp "$work/trace" "$JEERBOX_KEEP_TRACE"; cleanup' EXIT
 
-mkdir -p "$work/bin"
-printf '#!/bin/sh\nprintf "%%s\\n" "$*" >> "%s/opened"\n' "$work" > "$work/bin/xdg-open"
-chmod +x "$work/bin/xdg-open"
-export PATH="$work/bin:$PATH"
-port=$(python3 -c 'import socket; s=socket.socket(); s.bind(("127.0.0.1",0)); print(s.getsockname()[1])')
-python3 -m http.server --bind 127.0.0.1 "$port" --directory "$work" >"$work/proxy.log" 2>&1 &
-pids+=($!)
-export http_proxy="http://127.0.0.1:$port"
+source "$(dirname "$0")/session_stand_ins.sh"
 
 strace -f -qq -o "$work/trace" \
   -e trace=open,openat,creat,rename,renameat,renameat2,unlink,unlinkat,mkdir,mkdirat,rmdir,link,linkat,symlink,symlinkat,truncate \
