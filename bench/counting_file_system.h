@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -18,8 +19,20 @@ class CountingFileSystem : public IFileSystem {
     if (status == FileStatus::kOk) ++mReads[path];
     return status;
   }
-  bool ReplaceFile(const std::string& path, const std::string& contents) override {
-    return mReal.ReplaceFile(path, contents);
+  bool ListFiles(const std::string& dir, std::vector<std::string>* names, std::string* error) override {
+    return mReal.ListFiles(dir, names, error);
+  }
+  bool MakeDirectories(const std::string& dir, std::string* error) override {
+    return mReal.MakeDirectories(dir, error);
+  }
+  bool WriteFile(const std::string& path, const std::string& contents, std::string* error) override {
+    return mReal.WriteFile(path, contents, error);
+  }
+  bool RenameFile(const std::string& from, const std::string& to, std::string* error) override {
+    return mReal.RenameFile(from, to, error);
+  }
+  bool RemoveFile(const std::string& path, std::string* error) override {
+    return mReal.RemoveFile(path, error);
   }
 
   void Reset() { mReads.clear(); }
@@ -31,7 +44,7 @@ class CountingFileSystem : public IFileSystem {
   }
 
  private:
-  RealFileSystem mReal;
+  IFileSystem& mReal = HostFileSystem();
   std::map<std::string, int> mReads;
 };
 

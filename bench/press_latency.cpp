@@ -10,10 +10,12 @@
 #include <cstdlib>
 #include <vector>
 
+#include <memory>
+
 #include "app/FJeerbox.h"
 #include "app/deployment.h"
-#include "platform/silent_audio_control.h"
-#include "platform/wave_devices.h"
+#include "app/qt/jeerbox_dialog.h"
+#include "helpers/silent_audio_control.h"
 #include "sound/FDMC.h"
 #include "support/globals.h"
 
@@ -35,7 +37,8 @@ int main(int argc, char** argv) {
   jeerbox::gFDMC = &fdmc;
   fdmc.Setup();
 
-  jeerbox::FJeerbox form(jeerbox::BuiltInDeployment());
+  jeerbox::FJeerbox form(jeerbox::BuiltInDeployment(), [] {});
+  form.AttachView(std::make_unique<jeerbox::JeerboxDialog>(form));
   form.Setup();
   form.Start();
   QApplication::processEvents();

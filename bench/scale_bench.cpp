@@ -16,9 +16,9 @@
 #include "bench_data.h"
 #include "compose/MJeerbox.h"
 #include "counting_file_system.h"
-#include "platform/memory_file_system.h"
-#include "platform/random.h"
+#include "helpers/memory_file_system.h"
 #include "support/globals.h"
+#include "support/random.h"
 #include "text/CTextGenerator.h"
 
 namespace jeerbox::bench {

@@ -3,7 +3,6 @@
 #include <cstdlib>
 
 #include "fuzz_support.h"
-#include "platform/profile.h"
 #include "support/CSettings.h"
 
 using namespace jeerbox;
@@ -15,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   (void)SettingToBoolean(settings.ReadSetting("EnableFX", true), true);
   (void)SettingToBoolean(settings.ReadSetting("EnableMusic", true), true);
   char small[8];
-  (void)GetPrivateProfileStringA("TW", "EnableFX", "default", small, sizeof small, settings.ConfigFile());
+  (void)CurrentProfile().GetPrivateProfileStringA("TW", "EnableFX", "default", small, sizeof small,
+                                                  settings.ConfigFile());
 
   settings.WriteSetting("Fuzzed", "value 1");
   if (settings.ReadSetting("Fuzzed", "") != "value 1") std::abort();

@@ -1,7 +1,7 @@
 #include "fuzz_support.h"
 
-#include "platform/random.h"
 #include "support/globals.h"
+#include "support/random.h"
 
 namespace jeerbox::fuzz {
 

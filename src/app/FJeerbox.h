@@ -1,45 +1,47 @@
-// The main window: the sentence in a locked text box, four buttons, and the
-// sponsor banner on a blue band at the foot.
+// The main form's logic: the count of sentences, the Copy button's state,
+// the handlers of the window's events, the connection test and the about
+// box. The window itself is a face (IJeerboxView) a toolkit provides.
 #pragma once
 
-#include <QDialog>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 
-#include "app/MForms.h"
 #include "app/deployment.h"
-
-class QLabel;
-class QPushButton;
+#include "app/jeerbox_view.h"
 
 namespace jeerbox {
-
-class CImage;
-class CShape;
-class CTextBox;
 
 // Why a form is being unloaded, as Form_QueryUnload hears it.
 constexpr int16_t kUnloadFormControlMenu = 0;  // the user, from the title bar or window manager
 constexpr int16_t kUnloadFormCode = 1;         // the program itself
 
-class FJeerbox : public QDialog {
-  Q_OBJECT
-
+class FJeerbox {
  public:
-  explicit FJeerbox(const Deployment& deployment, QWidget* parent = nullptr);
-  ~FJeerbox() override;
-  Q_DISABLE_COPY_MOVE(FJeerbox)
+  // `shutdownApp` is the program's orderly end, which Close and the title
+  // bar's close lead to.
+  FJeerbox(Deployment deployment, std::function<void()> shutdownApp);
+  ~FJeerbox();
+  FJeerbox(const FJeerbox&) = delete;
+  FJeerbox& operator=(const FJeerbox&) = delete;
+
+  // The face this form drives; the form keeps it.
+  void AttachView(std::unique_ptr<IJeerboxView> view) { mView = std::move(view); }
+  IJeerboxView* View() const { return mView.get(); }
+  const Deployment& GetDeployment() const { return mDeployment; }
 
   void Setup();
   void Start();
   void TryURL(const std::string& url);
   bool IsConnected();
 
-  // Unloads the form the way the program asks for it; see Form_QueryUnload.
+  // Unloads the form as the program asks for it; see Form_QueryUnload.
   void Unload();
-  bool IsLoaded() const { return mFormId != 0; }
-  void SetFormId(FormId id) { mFormId = id; }
+  // The face calls this before its window goes, however the close came
+  // about. False keeps the window. `onUnloaded` runs once it may go.
+  bool WindowClosing();
+  void SetUnloadedHandler(std::function<void()> onUnloaded) { mOnUnloaded = std::move(onUnloaded); }
 
   // Where sentences come from; GenerateInsult unless a test says otherwise.
   void SetInsultSource(std::function<std::string()> source) { mInsultSource = std::move(source); }
@@ -48,8 +50,7 @@ class FJeerbox : public QDialog {
   // The about box's text, as 8-bit text with CR paragraph breaks.
   std::string AboutText() const;
 
-  // The window's events. Public so that tests can raise them one by one as
-  // the toolkit would; nothing else in the program calls them.
+  // The window's events, raised by the face.
   void cmdAbout_Click();
   void cmdClose_Click();
   void cmdCopy_Click();
@@ -57,32 +58,17 @@ class FJeerbox : public QDialog {
   void Form_QueryUnload(int16_t& cancelFlag, int16_t unloadReason);
   void imgSponsoredBy_Click();
 
- protected:
-  void closeEvent(QCloseEvent* event) override;
-  void reject() override;
-
  private:
-  void BuildControls();
   void ShowConnectionError(const std::string& url);
   void UpdateButtons();
 
   Deployment mDeployment;
+  std::function<void()> mShutdownApp;
+  std::function<void()> mOnUnloaded;
   std::function<std::string()> mInsultSource;
+  std::unique_ptr<IJeerboxView> mView;
   int16_t mInsultCount = 0;
-  FormId mFormId = 0;
   bool mUnloadRequested = false;
-
-  QPushButton* cmdCopy = nullptr;
-  QPushButton* cmdInsult = nullptr;
-  QPushButton* cmdClose = nullptr;
-  QPushButton* cmdAbout = nullptr;
-  CTextBox* txtInsult = nullptr;
-  QLabel* lblTitle = nullptr;
-  CShape* shpBorder = nullptr;
-  QLabel* lblHelp = nullptr;
-  QLabel* lblSponsoredBy = nullptr;
-  CImage* imgSponsoredBy = nullptr;
-  CShape* shpBG = nullptr;
 };
 
 }  // namespace jeerbox

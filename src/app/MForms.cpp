@@ -2,9 +2,9 @@
 #include "app/MForms.h"
 
 #include <map>
-#include <memory>
 
 #include "app/FJeerbox.h"
+#include "app/app_services.h"
 
 namespace jeerbox {
 namespace {
@@ -53,10 +53,16 @@ std::string FormName(FormId id) {
   return it == List().forms.end() ? std::string() : it->second.first;
 }
 
+void LoadMainForm(std::unique_ptr<FJeerbox> form) {
+  MainFormSlot() = std::move(form);
+  FJeerbox* main = MainFormSlot().get();
+  main->AttachView(Services().makeMainView(*main));
+  const FormId id = LoadForm("FJeerbox", [main] { main->Unload(); });
+  main->SetUnloadedHandler([id] { ForgetForm(id); });
+}
+
 void ShowMainForm() {
-  if (!MainFormSlot()) MainFormSlot() = std::make_unique<FJeerbox>(BuiltInDeployment());
-  FJeerbox* form = MainFormSlot().get();
-  if (!form->IsLoaded()) form->SetFormId(LoadForm("FJeerbox", [form] { form->Unload(); }));
+  FJeerbox* form = MainForm();
   form->Setup();
   form->Start();
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,9 +23,12 @@ void UnloadForm(FormId id);
 std::vector<FormId> LoadedForms();
 std::string FormName(FormId id);  // "" for a form no longer loaded
 
-// Makes the main form on first use, then FJeerbox.Setup and FJeerbox.Start.
+// Makes `form` the main form, with its face from Services(); the form is
+// loaded until its window goes.
+void LoadMainForm(std::unique_ptr<FJeerbox> form);
+// FJeerbox.Setup, then FJeerbox.Start. Needs a main form.
 void ShowMainForm();
-// The main form; null until ShowMainForm made it.
+// The main form; null until LoadMainForm.
 FJeerbox* MainForm();
 // At the very end (after the event loop, or between tests): unloads the
 // forms still loaded, then destroys the main form.

@@ -6,10 +6,7 @@
 #include "app/FJeerbox.h"
 #include "app/MForms.h"
 #include "app/app_services.h"
-#include "platform/command_line.h"
-#include "platform/executable_path.h"
 #include "platform/message_box.h"
-#include "platform/previous_instance.h"
 #include "platform/process.h"
 #include "sound/FDMC.h"
 #include "support/MSimpleIO.h"
@@ -56,18 +53,19 @@ std::string PreviousInstanceText() {
 
 void Main() {
   AppServices& services = Services();
-  gAppPath = ExecutableDirectory();
+  gAppPath = services.process->ExecutableDirectory();
   gAllowMarkedText = true;
-  if (services.previousInstance->PrevInstance()) {
+  if (services.process->PrevInstance()) {
     services.messageBox->MsgBox(PreviousInstanceText(), kIconExclamation, kAppTitle);
     services.process->End();
     return;
   }
-  if (!Trim(Command()).empty()) {
+  if (!Trim(services.process->CommandLine()).empty()) {
     services.messageBox->MsgBox("Invalid command line ignored", kIconExclamation, kAppTitle);
   }
   if (!gFDMC) LoadAudioForm();
   gFDMC->Setup();
+  if (!MainForm()) LoadMainForm(std::make_unique<FJeerbox>(BuiltInDeployment(), ShutdownApp));
   ShowMainForm();
 }
 

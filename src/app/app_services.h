@@ -1,30 +1,35 @@
-// The platform behind the window, in one place: main() fills it with the
-// real units, tests with fakes that record. The pointers are not owned.
+// The platform the program flow runs on, in one place: main() fills it with
+// the host's units, tests with fakes that record. Pointers are not owned.
 #pragma once
+
+#include <functional>
+#include <memory>
 
 namespace jeerbox {
 
+class FJeerbox;
 class IAudioControl;
 class IClipboard;
 class IInternet;
+class IJeerboxView;
 class IMessageBox;
-class IPreviousInstance;
 class IProcess;
 class IShell;
 class IWaveDevices;
 
 struct AppServices {
-  IPreviousInstance* previousInstance = nullptr;
+  IProcess* process = nullptr;
   IMessageBox* messageBox = nullptr;
   IClipboard* clipboard = nullptr;
   IInternet* internet = nullptr;
   IShell* shell = nullptr;
-  IProcess* process = nullptr;
   IAudioControl* audioControl = nullptr;
   IWaveDevices* waveDevices = nullptr;
+  // Makes the main window's face for the form, which keeps it.
+  std::function<std::unique_ptr<IJeerboxView>(FJeerbox&)> makeMainView;
 };
 
-// Every pointer must be set before Main runs.
+// Everything must be set before Main runs.
 AppServices& Services();
 void SetServices(const AppServices& services);
 

@@ -8,9 +8,9 @@
 #include "cli/commands.h"
 #include "cli/escape.h"
 #include "compose/MJeerbox.h"
-#include "platform/executable_path.h"
-#include "platform/random.h"
+#include "platform/process.h"
 #include "support/globals.h"
+#include "support/random.h"
 #include "text/CTextGenerator.h"
 #include "text/MSimpleCrypto.h"
 

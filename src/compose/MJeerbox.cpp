@@ -2,9 +2,9 @@
 // order of the random sequence: changing it changes every seeded sentence.
 #include "compose/MJeerbox.h"
 
-#include "platform/random.h"
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
+#include "support/random.h"
 #include "text/CTextGenerator.h"
 #include "text/charset.h"
 #include "text/shorthand.h"

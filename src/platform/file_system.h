@@ -1,8 +1,9 @@
-// File search and whole-file reading. Callers build paths with backslashes;
-// the real implementation translates them for the host.
+// File search, whole-file reading, and the few writes the word-list tools
+// make. Callers build paths with backslashes; each host translates them.
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace jeerbox {
 
@@ -15,25 +16,24 @@ class IFileSystem {
   virtual bool FileExists(const std::string& path) = 0;
   // Reads the whole file as bytes into *contents (cleared on failure).
   virtual FileStatus ReadFile(const std::string& path, std::string* contents) = 0;
-  // Replaces the file as a whole: readers see the old or the new contents,
-  // never a mix. False when it can't be written.
-  virtual bool ReplaceFile(const std::string& path, const std::string& contents) = 0;
+
+  // The calls below report a failure as false and, when `error` isn't null,
+  // a reason for people ("Permission denied").
+  // The names of the regular files directly in `dir`, sorted.
+  virtual bool ListFiles(const std::string& dir, std::vector<std::string>* names, std::string* error) = 0;
+  // Makes `dir` and any missing parents; true when it exists afterwards.
+  virtual bool MakeDirectories(const std::string& dir, std::string* error) = 0;
+  // Writes a new file at `path`, replacing what was there, and flushes it.
+  virtual bool WriteFile(const std::string& path, const std::string& contents, std::string* error) = 0;
+  // Moves `from` onto `to` in one step: `to` is the old or the new file,
+  // never a mix.
+  virtual bool RenameFile(const std::string& from, const std::string& to, std::string* error) = 0;
+  virtual bool RemoveFile(const std::string& path, std::string* error) = 0;
 };
 
-// POSIX: "\" becomes "/", nothing else changes.
-class RealFileSystem : public IFileSystem {
- public:
-  bool FileExists(const std::string& path) override;
-  FileStatus ReadFile(const std::string& path, std::string* contents) override;
-  bool ReplaceFile(const std::string& path, const std::string& contents) override;
-};
-
+// The host's file system, and a path as the host writes it ("\" becomes
+// "/" on POSIX). Each host library defines both.
+IFileSystem& HostFileSystem();
 std::string NativePath(const std::string& path);
-
-IFileSystem& CurrentFileSystem();
-
-// Puts `fs` in place of the real file system (nullptr restores it) and
-// returns the previous one. The caller keeps ownership.
-IFileSystem* SetFileSystem(IFileSystem* fs);
 
 }  // namespace jeerbox

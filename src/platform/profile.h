@@ -1,24 +1,26 @@
-// Sectioned settings files ("[Section]", "name=value" lines), read and
-// written with the semantics of the classic profile functions.
+// Sectioned settings files ("[Section]", "name=value" lines) through the
+// classic profile functions. Windows has them; elsewhere a portable reader
+// (support/profile_file.h) stands in.
 #pragma once
 
 #include <string>
 
 namespace jeerbox {
 
-// Copies the value of `key` in `section` of `fileName` into `buffer`, or
-// `defaultValue` when the file, the section or the key is missing. Section
-// and key names match without regard to case; blanks around names and
-// values are dropped, and a value in matching quotes loses them. A value
-// longer than size - 1 is cut to size - 1. Returns the characters copied,
-// not counting the terminating NUL.
-int GetPrivateProfileStringA(const std::string& section, const std::string& key,
-                             const std::string& defaultValue, char* buffer, int size,
-                             const std::string& fileName);
-
-// Sets `key` in `section` to `value`, adding the section or the key when
-// missing, and replaces the file as a whole. False when it can't be written.
-bool WritePrivateProfileStringA(const std::string& section, const std::string& key, const std::string& value,
-                                const std::string& fileName);
+class IProfile {
+ public:
+  virtual ~IProfile() = default;
+  // Copies the value of `key` in `section` of `fileName` into `buffer` of
+  // `size` characters, the terminating NUL included, or `defaultValue` when
+  // the file, the section or the key is missing. Returns the characters
+  // copied, not counting the NUL: a longer value arrives cut to size - 1.
+  virtual int GetPrivateProfileStringA(const std::string& section, const std::string& key,
+                                       const std::string& defaultValue, char* buffer, int size,
+                                       const std::string& fileName) = 0;
+  // Sets `key` in `section` to `value`, adding the section or the key when
+  // missing. False when the file can't be written.
+  virtual bool WritePrivateProfileStringA(const std::string& section, const std::string& key,
+                                          const std::string& value, const std::string& fileName) = 0;
+};
 
 }  // namespace jeerbox

@@ -14,12 +14,4 @@ class IShell {
                              const char* parameters, const char* directory, int showCommand) = 0;
 };
 
-// QDesktopServices: the desktop's URL handler (xdg-open on X), started with
-// the URL as its one argument, never through a shell.
-class QtShell : public IShell {
- public:
-  void ShellExecuteA(void* ownerWindow, const char* operation, const char* file, const char* parameters,
-                     const char* directory, int showCommand) override;
-};
-
 }  // namespace jeerbox

@@ -10,7 +10,7 @@ namespace jeerbox {
 
 FDMC* gFDMC = nullptr;
 
-bool HasWaveDevice(IWaveDevices& devices) { return devices.Count() > 0; }
+bool HasWaveDevice(IWaveDevices& devices) { return devices.waveOutGetNumDevs() > 0; }
 
 FDMC::FDMC(IAudioControl& control, IWaveDevices& devices) : mControl(control), mDevices(devices) {}
 

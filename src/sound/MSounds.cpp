@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-#include "platform/random.h"
 #include "sound/FDMC.h"
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
+#include "support/random.h"
 
 namespace jeerbox {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <cctype>
 
-#include "platform/profile.h"
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
+#include "support/profile_file.h"
 
 namespace jeerbox {
 namespace {
@@ -17,7 +17,20 @@ std::string Lower(std::string text) {
   return text;
 }
 
+IProfile* gProfile = nullptr;
+
 }  // namespace
+
+IProfile& CurrentProfile() {
+  static PortableProfile portable;
+  return gProfile ? *gProfile : portable;
+}
+
+IProfile* SetProfile(IProfile* profile) {
+  IProfile* previous = gProfile;
+  gProfile = profile;
+  return previous;
+}
 
 CSettings::CSettings() { Class_Initialize(); }
 
@@ -36,14 +49,15 @@ std::string CSettings::ReadSetting(const std::string& settingName, bool defaultV
 }
 
 void CSettings::WriteSetting(const std::string& settingName, const std::string& settingValue) const {
-  WritePrivateProfileStringA(kSection, settingName, settingValue, mConfigFile);
+  CurrentProfile().WritePrivateProfileStringA(kSection, settingName, settingValue, mConfigFile);
 }
 
 // An empty default makes "present but empty" read the same as "absent".
 std::string CSettings::ReadGeneralSetting(const std::string& configFileName, const std::string& section,
                                           const std::string& settingName, const std::string& defaultValue) {
   char buffer[kBufferSize];
-  const int length = GetPrivateProfileStringA(section, settingName, "", buffer, kBufferSize, configFileName);
+  const int length = CurrentProfile().GetPrivateProfileStringA(section, settingName, "", buffer, kBufferSize,
+                                                               configFileName);
   return length > 0 ? std::string(buffer, static_cast<size_t>(length)) : defaultValue;
 }
 

@@ -4,7 +4,15 @@
 
 #include <string>
 
+#include "platform/profile.h"
+
 namespace jeerbox {
+
+// The profile functions settings are read with: the portable reader unless
+// the host's own were put in place (SetProfile returns the previous ones;
+// nullptr restores the portable reader). The caller keeps ownership.
+IProfile& CurrentProfile();
+IProfile* SetProfile(IProfile* profile);
 
 class CSettings {
  public:

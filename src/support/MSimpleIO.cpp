@@ -4,6 +4,28 @@
 #include "platform/file_system.h"
 
 namespace jeerbox {
+namespace {
+
+IFileSystem* gFileSystem = nullptr;
+
+}  // namespace
+
+IFileSystem& CurrentFileSystem() { return gFileSystem ? *gFileSystem : HostFileSystem(); }
+
+IFileSystem* SetFileSystem(IFileSystem* fs) {
+  IFileSystem* previous = gFileSystem;
+  gFileSystem = fs;
+  return previous;
+}
+
+// Beside the target first, so that a reader never sees half a file.
+bool ReplaceWholeFile(const std::string& path, const std::string& contents) {
+  IFileSystem& fs = CurrentFileSystem();
+  const std::string temp = path + ".new";
+  if (fs.WriteFile(temp, contents, nullptr) && fs.RenameFile(temp, path, nullptr)) return true;
+  fs.RemoveFile(temp, nullptr);
+  return false;
+}
 
 bool FileExists(const std::string& path) { return CurrentFileSystem().FileExists(path); }
 

@@ -4,7 +4,19 @@
 
 #include <string>
 
+#include "platform/file_system.h"
+
 namespace jeerbox {
+
+// The file system every file call of the program goes through: the host's,
+// unless `fs` was put in its place (tests, tools). SetFileSystem returns the
+// previous one; nullptr restores the host's. The caller keeps ownership.
+IFileSystem& CurrentFileSystem();
+IFileSystem* SetFileSystem(IFileSystem* fs);
+
+// Replaces the file as a whole: readers see the old or the new contents,
+// never a mix. False when it can't be written.
+bool ReplaceWholeFile(const std::string& path, const std::string& contents);
 
 bool FileExists(const std::string& path);
 

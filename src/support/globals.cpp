@@ -1,7 +1,7 @@
 // Storage for the process-wide values.
 #include "support/globals.h"
 
-#include "platform/random.h"
+#include "support/random.h"
 
 namespace jeerbox {
 

@@ -1,10 +1,9 @@
 // The text store: numbered files, scrambled sections, random picks.
 #include "text/CTextGenerator.h"
 
-#include "platform/file_system.h"
-#include "platform/random.h"
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
+#include "support/random.h"
 #include "text/CTextUtils.h"
 #include "text/MSimpleCrypto.h"
 #include "text/find_bytes.h"

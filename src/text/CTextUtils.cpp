@@ -1,8 +1,8 @@
 // Section reading and the template passes.
 #include "text/CTextUtils.h"
 
-#include "platform/random.h"
 #include "support/MSimpleIO.h"
+#include "support/random.h"
 #include "text/MSimpleCrypto.h"
 #include "text/find_bytes.h"
 #include "text/shorthand.h"

@@ -13,24 +13,66 @@ void RecordingMessageBox::MsgBox(const std::string& text, int icon, const std::s
 
 void RecordingProcess::End() {
   ++mEnds;
-  FJeerbox* form = MainForm();
-  mLog.push_back(std::string("end") + (form && form->isVisible() ? " (window still up)" : ""));
+  const RecordingView* view = MainView();
+  mLog.push_back(std::string("end") + (view && view->visible ? " (window still up)" : ""));
+}
+
+HINTERNET RecordingInternet::InternetOpenA(const char* agent, uint32_t accessType, const char* proxyName,
+                                           const char* proxyBypass, uint32_t flags) {
+  calls.push_back("open agent=" + std::string(agent) + " access=" + std::to_string(accessType) +
+                  " proxy=" + (proxyName ? "set" : "none") + " bypass=" + (proxyBypass ? "set" : "none") +
+                  " flags=" + std::to_string(flags));
+  if (!sessionOpens) return nullptr;
+  ++openHandles;
+  return &mSession;
+}
+
+HINTERNET RecordingInternet::InternetOpenUrlA(HINTERNET internet, const char* url, const char* headers,
+                                              uint32_t headersLength, uint32_t flags, uintptr_t context) {
+  char hex[16];
+  std::snprintf(hex, sizeof hex, "%08X", flags);
+  calls.push_back(std::string("url ") + url + " headers=" + (headers ? headers : "none") + "/" +
+                  std::to_string(headersLength) + " flags=0x" + hex + " context=" + std::to_string(context) +
+                  (internet == &mSession ? "" : " (no session)"));
+  if (!hostAnswers || internet != &mSession) return nullptr;
+  ++openHandles;
+  return &mRequest;
+}
+
+bool RecordingInternet::InternetCloseHandle(HINTERNET handle) {
+  calls.push_back(handle == &mSession ? "close session" : handle == &mRequest ? "close request" : "close ?");
+  --openHandles;
+  return true;
+}
+
+bool RecordingView::CloseWindow() {
+  if (mClosing) return false;
+  mClosing = true;
+  const bool goes = mForm.WindowClosing();
+  mClosing = false;
+  if (goes) visible = false;
+  return goes;
 }
 
 FakePlatform::FakePlatform() : mSaved(Services()) {
   AppServices services;
-  services.previousInstance = &previousInstance;
+  services.process = &process;
   services.messageBox = &messageBox;
   services.clipboard = &clipboard;
   services.internet = &internet;
   services.shell = &shell;
-  services.process = &process;
   services.audioControl = &audioControl;
   services.waveDevices = &waveDevices;
+  services.makeMainView = [](FJeerbox& form) { return std::make_unique<RecordingView>(form); };
   SetServices(services);
 }
 
 FakePlatform::~FakePlatform() { SetServices(mSaved); }
+
+RecordingView* MainView() {
+  FJeerbox* form = MainForm();
+  return form ? dynamic_cast<RecordingView*>(form->View()) : nullptr;
+}
 
 int FindInLog(const EventLog& log, const std::string& prefix) {
   for (size_t i = 0; i < log.size(); ++i) {

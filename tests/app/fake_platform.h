@@ -1,21 +1,24 @@
-// Fakes for the window's platform units. Each records what was asked of it
-// into one shared log, so tests can check the order of steps across units.
+// Fakes for the program flow's platform and for the window's face. Each
+// records what was asked of it into one shared log, so tests can check the
+// order of steps across units.
 #pragma once
 
-#include <QString>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "app/app_services.h"
-#include "platform/audio_control.h"
+#include "app/jeerbox_view.h"
+#include "helpers/silent_audio_control.h"
 #include "platform/clipboard.h"
-#include "platform/internet_curl.h"
+#include "platform/internet.h"
 #include "platform/message_box.h"
-#include "platform/previous_instance.h"
 #include "platform/process.h"
 #include "platform/shell.h"
-#include "platform/wave_devices.h"
+
+namespace jeerbox {
+class FJeerbox;
+}
 
 namespace jeerbox::testing {
 
@@ -39,8 +42,8 @@ class RecordingMessageBox : public IMessageBox {
 
 class RecordingClipboard : public IClipboard {
  public:
-  void SetText(const QString& text) override { copies.push_back(text); }
-  std::vector<QString> copies;
+  void SetText(const std::string& text) override { copies.push_back(text); }
+  std::vector<std::string> copies;
 };
 
 struct OpenedDocument {
@@ -61,42 +64,50 @@ class RecordingShell : public IShell {
 class RecordingProcess : public IProcess {
  public:
   explicit RecordingProcess(EventLog& log) : mLog(log) {}
+  std::string ExecutableDirectory() override { return "C:\\Program Files\\Jeerbox"; }
+  std::string CommandLine() override { return commandLine; }
+  bool PrevInstance() override { return previousInstance; }
   void End() override;
   bool Ended() const override { return mEnds > 0; }
   int Ends() const { return mEnds; }
+
+  std::string commandLine;
+  bool previousInstance = false;
 
  private:
   EventLog& mLog;
   int mEnds = 0;
 };
 
-class FakePreviousInstance : public IPreviousInstance {
+// The Internet calls of a test host that answers (any status) or doesn't;
+// each call is noted with its arguments.
+class RecordingInternet : public IInternet {
  public:
-  bool PrevInstance() override { return running; }
-  bool running = false;
+  HINTERNET InternetOpenA(const char* agent, uint32_t accessType, const char* proxyName,
+                          const char* proxyBypass, uint32_t flags) override;
+  HINTERNET InternetOpenUrlA(HINTERNET internet, const char* url, const char* headers, uint32_t headersLength,
+                             uint32_t flags, uintptr_t context) override;
+  bool InternetCloseHandle(HINTERNET handle) override;
+
+  bool sessionOpens = true;
+  bool hostAnswers = true;
+  std::vector<std::string> calls;
+  int openHandles = 0;
+
+ private:
+  int mSession = 0;
+  int mRequest = 0;
 };
 
 // Logs the calls that mark the audio form's steps: set-up, shutdown, unload.
-class LoggingAudioControl : public IAudioControl {
+class LoggingAudioControl : public SilentAudioControl {
  public:
   explicit LoggingAudioControl(EventLog& log) : mLog(log) {}
   bool OpenMixer(int32_t, int32_t, bool, bool) override { return Log("OpenMixer"); }
   bool ResetMixer() override { return Log("ResetMixer"); }
   bool CloseMusic() override { return Log("CloseMusic"); }
   bool CloseMixer() override { return Log("CloseMixer"); }
-  bool LoadMusic(const std::string&) override { return true; }
-  bool PlayMusic(bool) override { return true; }
-  bool StopMusic() override { return true; }
-  bool PauseMusic() override { return true; }
-  bool ResumeMusic() override { return true; }
-  std::optional<bool> MusicCanPause() override { return true; }
-  std::optional<bool> MusicCanResume() override { return true; }
-  bool SetChannel(int32_t) override { return true; }
-  bool SetChannelPan(int32_t) override { return true; }
   bool LoadChannel(const std::string& fileName) override { return Log("LoadChannel " + fileName); }
-  bool PlayChannel(bool) override { return true; }
-  bool ClearChannel() override { return true; }
-  bool StopChannel() override { return true; }
 
  private:
   bool Log(const std::string& call) {
@@ -106,26 +117,52 @@ class LoggingAudioControl : public IAudioControl {
   EventLog& mLog;
 };
 
-// A whole platform of fakes (the Internet is real libcurl, with short
-// time-outs), installed as Services() for the object's lifetime.
+// The window as a toolkit keeps it: a close reaches the form first, and a
+// close asked for while one is under way is refused.
+class RecordingView : public IJeerboxView {
+ public:
+  explicit RecordingView(FJeerbox& form) : mForm(form) {}
+  void Show() override { visible = true; }
+  void SetInsultText(const std::string& text) override { mText = text; }
+  std::string InsultText() const override { return mText; }
+  void SetCopyEnabled(bool enabled) override { copyEnabled = enabled; }
+  void Close() override { CloseWindow(); }
+  // What the title bar's close box does.
+  bool CloseWindow();
+
+  bool visible = false;
+  bool copyEnabled = true;  // as a fresh button is, until the form says otherwise
+
+ private:
+  FJeerbox& mForm;
+  std::string mText = "Click \"Insult me\" to generate an insult\r\n";
+  bool mClosing = false;
+};
+
+// A whole platform of fakes, installed as Services() for the object's
+// lifetime; the main form's face is a RecordingView.
 class FakePlatform {
  public:
   FakePlatform();
   ~FakePlatform();
+  FakePlatform(const FakePlatform&) = delete;
+  FakePlatform& operator=(const FakePlatform&) = delete;
 
   EventLog log;
   RecordingMessageBox messageBox{log};
   RecordingClipboard clipboard;
-  CurlInternet internet{2000, 2000};
+  RecordingInternet internet;
   RecordingShell shell;
   RecordingProcess process{log};
-  FakePreviousInstance previousInstance;
   LoggingAudioControl audioControl{log};
   FixedWaveDevices waveDevices{1};
 
  private:
   AppServices mSaved;
 };
+
+// The main form's face while it is a RecordingView; null otherwise.
+RecordingView* MainView();
 
 // Index of the first entry of `log` starting with `prefix`; -1 if none.
 int FindInLog(const EventLog& log, const std::string& prefix);

@@ -2,9 +2,6 @@
 // copy, the command-line warning, and the orderly end by every route.
 #include <gtest/gtest.h>
 
-#include <QCloseEvent>
-#include <QPushButton>
-#include <QTest>
 #include <memory>
 
 #include "app/FJeerbox.h"
@@ -12,9 +9,6 @@
 #include "app/MMain.h"
 #include "fake_platform.h"
 #include "helpers/fake_file_system.h"
-#include "platform/command_line.h"
-#include "platform/executable_path.h"
-#include "platform/message_box.h"
 #include "sound/FDMC.h"
 #include "support/globals.h"
 
@@ -23,7 +17,6 @@ namespace {
 
 class ProgramFlow : public ::testing::Test {
  protected:
-  void SetUp() override { SetCommandLineText(""); }
   void TearDown() override {
     ReleaseForms();
     gFDMC = nullptr;
@@ -35,9 +28,8 @@ class ProgramFlow : public ::testing::Test {
     for (FormId id : LoadedForms()) names.push_back(FormName(id));
     return names;
   }
-  // The log from `first` on, entries not starting with "audio Set" etc.
-  std::vector<std::string> LogFrom(size_t first) const {
-    return std::vector<std::string>(platform.log.begin() + static_cast<long>(first), platform.log.end());
+  EventLog LogFrom(size_t first) const {
+    return EventLog(platform.log.begin() + static_cast<long>(first), platform.log.end());
   }
 
   FakeFileSystem files;
@@ -45,7 +37,7 @@ class ProgramFlow : public ::testing::Test {
 };
 
 TEST_F(ProgramFlow, SecondCopyIsRefusedWithTheMessageAndNothingStarts) {
-  platform.previousInstance.running = true;
+  platform.process.previousInstance = true;
   Main();
   ASSERT_EQ(platform.messageBox.shown.size(), 1u);
   EXPECT_EQ(platform.messageBox.shown[0].text,
@@ -63,13 +55,14 @@ TEST_F(ProgramFlow, SecondCopyIsRefusedWithTheMessageAndNothingStarts) {
 TEST_F(ProgramFlow, StartSetsTheValuesThenAudioThenTheWindow) {
   gAllowMarkedText = false;
   Main();
-  EXPECT_EQ(gAppPath, ExecutableDirectory());
+  EXPECT_EQ(gAppPath, "C:\\Program Files\\Jeerbox");
   EXPECT_TRUE(gAllowMarkedText);
   EXPECT_TRUE(platform.messageBox.shown.empty());
   EXPECT_FALSE(platform.process.Ended());
   ASSERT_NE(gFDMC, nullptr);
-  ASSERT_NE(MainForm(), nullptr);
-  EXPECT_TRUE(MainForm()->isVisible());
+  ASSERT_NE(MainView(), nullptr);
+  EXPECT_TRUE(MainView()->visible);
+  EXPECT_FALSE(MainView()->copyEnabled) << "Copy is off before the window is first seen";
   // Audio came up (the mixer opened) while no window was yet on screen.
   EXPECT_EQ(platform.log, (EventLog{"audio ResetMixer", "audio OpenMixer"}));
   EXPECT_EQ(Loaded(), (std::vector<std::string>{"FDMC", "FJeerbox"}));
@@ -84,7 +77,7 @@ TEST_F(ProgramFlow, CommandLineOfAnythingButBlanksIsWarnedAboutOnceThenStartGoes
   for (const Case& c : cases) {
     SCOPED_TRACE(c.commandLine);
     FakePlatform fresh;
-    SetCommandLineText(c.commandLine);
+    fresh.process.commandLine = c.commandLine;
     Main();
     if (c.warned) {
       ASSERT_EQ(fresh.messageBox.shown.size(), 1u);
@@ -94,8 +87,8 @@ TEST_F(ProgramFlow, CommandLineOfAnythingButBlanksIsWarnedAboutOnceThenStartGoes
     } else {
       EXPECT_TRUE(fresh.messageBox.shown.empty());
     }
-    ASSERT_NE(MainForm(), nullptr);
-    EXPECT_TRUE(MainForm()->isVisible());
+    ASSERT_NE(MainView(), nullptr);
+    EXPECT_TRUE(MainView()->visible);
     EXPECT_FALSE(fresh.process.Ended());
     ReleaseForms();
     gFDMC = nullptr;
@@ -114,7 +107,7 @@ void ExpectOrderlyEnd(const EventLog& tail, const std::string& end) {
 TEST_F(ProgramFlow, CloseButtonShutsDownAudioThenFormsThenTheMainFormLast) {
   Main();
   const size_t start = platform.log.size();
-  QTest::mouseClick(MainForm()->findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+  MainForm()->cmdClose_Click();
   ExpectOrderlyEnd(LogFrom(start), "end");
   EXPECT_EQ(gFDMC, nullptr);
   EXPECT_TRUE(Loaded().empty());
@@ -124,10 +117,9 @@ TEST_F(ProgramFlow, CloseButtonShutsDownAudioThenFormsThenTheMainFormLast) {
 TEST_F(ProgramFlow, TitleBarCloseBehavesLikeTheCloseButton) {
   Main();
   const size_t start = platform.log.size();
-  // What the window manager's close box sends.
-  EXPECT_TRUE(MainForm()->close());
+  EXPECT_TRUE(MainView()->CloseWindow());
   ExpectOrderlyEnd(LogFrom(start), "end (window still up)");
-  EXPECT_FALSE(MainForm()->isVisible());
+  EXPECT_FALSE(MainView()->visible);
   EXPECT_TRUE(Loaded().empty());
   EXPECT_EQ(platform.process.Ends(), 1);
 }
@@ -136,7 +128,7 @@ TEST_F(ProgramFlow, AnUnloadTheProgramAsksForDoesNotShutDown) {
   Main();
   const size_t start = platform.log.size();
   MainForm()->Unload();
-  EXPECT_FALSE(MainForm()->isVisible());
+  EXPECT_FALSE(MainView()->visible);
   EXPECT_TRUE(LogFrom(start).empty());
   EXPECT_EQ(platform.process.Ends(), 0);
   EXPECT_EQ(Loaded(), (std::vector<std::string>{"FDMC"}));

@@ -8,8 +8,8 @@
 #include "cli/checker.h"
 #include "compose/MJeerbox.h"
 #include "helpers/temp_dir.h"
-#include "platform/random.h"
 #include "support/MSimpleIO.h"
+#include "support/random.h"
 #include "wordlist_test_util.h"
 
 namespace jeerbox::testing {

@@ -18,9 +18,9 @@ FileStatus FakeFileSystem::ReadFile(const std::string& path, std::string* conten
   return status;
 }
 
-bool FakeFileSystem::ReplaceFile(const std::string& path, const std::string& contents) {
+bool FakeFileSystem::WriteFile(const std::string& path, const std::string& contents, std::string* error) {
   mTouched.push_back(path);
-  return MemoryFileSystem::ReplaceFile(path, contents);
+  return MemoryFileSystem::WriteFile(path, contents, error);
 }
 
 int FakeFileSystem::Reads(const std::string& path) const {

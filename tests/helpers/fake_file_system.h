@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/memory_file_system.h"
+#include "helpers/memory_file_system.h"
 
 namespace jeerbox::testing {
 
@@ -18,7 +18,7 @@ class FakeFileSystem : public MemoryFileSystem {
 
   bool FileExists(const std::string& path) override;
   FileStatus ReadFile(const std::string& path, std::string* contents) override;
-  bool ReplaceFile(const std::string& path, const std::string& contents) override;
+  bool WriteFile(const std::string& path, const std::string& contents, std::string* error) override;
 
   // Successful reads of the path.
   int Reads(const std::string& path) const;

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "platform/random.h"
+#include "support/random.h"
 
 namespace jeerbox::testing {
 

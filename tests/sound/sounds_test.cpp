@@ -1,3 +1,4 @@
+#include "helpers/silent_audio_control.h"
 #include "sound/MSounds.h"
 
 #include <gmock/gmock.h>

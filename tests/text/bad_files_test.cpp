@@ -9,8 +9,8 @@
 #include "compose/MJeerbox.h"
 #include "helpers/scrambled_writer.h"
 #include "helpers/temp_dir.h"
-#include "platform/random.h"
 #include "support/globals.h"
+#include "support/random.h"
 #include "text/CTextGenerator.h"
 
 namespace jeerbox::testing {

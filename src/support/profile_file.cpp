@@ -1,0 +1,134 @@
+// The portable profile reader: profile files parsed by hand, read and
+// written through the program's file system.
+#include "support/profile_file.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+#include <vector>
+
+#include "support/MSimpleIO.h"
+
+namespace jeerbox {
+namespace {
+
+std::string TrimBlanks(const std::string& text) {
+  const size_t first = text.find_first_not_of(" \t");
+  if (first == std::string::npos) return std::string();
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+bool SameName(const std::string& a, const std::string& b) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
+         });
+}
+
+std::vector<std::string> SplitLines(const std::string& text) {
+  std::vector<std::string> lines;
+  size_t start = 0;
+  while (start < text.size()) {
+    size_t end = text.find('\n', start);
+    if (end == std::string::npos) end = text.size();
+    std::string line = text.substr(start, end - start);
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    lines.push_back(std::move(line));
+    start = end + 1;
+  }
+  return lines;
+}
+
+// The section name of a head line, or false when the line is no head.
+bool SectionHead(const std::string& line, std::string* name) {
+  const std::string trimmed = TrimBlanks(line);
+  if (trimmed.empty() || trimmed[0] != '[') return false;
+  const size_t close = trimmed.find(']');
+  *name = TrimBlanks(trimmed.substr(1, close == std::string::npos ? std::string::npos : close - 1));
+  return true;
+}
+
+// The key and raw value of a "name=value" line; comments and other lines
+// are no entries.
+bool Entry(const std::string& line, std::string* key, std::string* value) {
+  const std::string trimmed = TrimBlanks(line);
+  if (trimmed.empty() || trimmed[0] == ';') return false;
+  const size_t equals = trimmed.find('=');
+  if (equals == std::string::npos) return false;
+  *key = TrimBlanks(trimmed.substr(0, equals));
+  *value = TrimBlanks(trimmed.substr(equals + 1));
+  return true;
+}
+
+std::string Unquote(const std::string& value) {
+  if (value.size() >= 2 && (value[0] == '"' || value[0] == '\'') && value.back() == value[0])
+    return value.substr(1, value.size() - 2);
+  return value;
+}
+
+// Index range [begin, end) of the section's entry lines; begin == npos when
+// the section is missing. The first section of the name counts.
+std::pair<size_t, size_t> FindSection(const std::vector<std::string>& lines, const std::string& section) {
+  std::string name;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    if (!SectionHead(lines[i], &name) || !SameName(name, section)) continue;
+    size_t end = i + 1;
+    while (end < lines.size() && !SectionHead(lines[end], &name)) ++end;
+    return {i + 1, end};
+  }
+  return {std::string::npos, 0};
+}
+
+int CopyOut(const std::string& value, char* buffer, int size) {
+  if (buffer == nullptr || size <= 0) return 0;
+  const size_t n = std::min(value.size(), static_cast<size_t>(size - 1));
+  std::memcpy(buffer, value.data(), n);
+  buffer[n] = '\0';
+  return static_cast<int>(n);
+}
+
+}  // namespace
+
+int PortableProfile::GetPrivateProfileStringA(const std::string& section, const std::string& key,
+                                              const std::string& defaultValue, char* buffer, int size,
+                                              const std::string& fileName) {
+  std::string text;
+  if (CurrentFileSystem().ReadFile(fileName, &text) != FileStatus::kOk)
+    return CopyOut(defaultValue, buffer, size);
+  const std::vector<std::string> lines = SplitLines(text);
+  const auto [begin, end] = FindSection(lines, section);
+  std::string name, value;
+  for (size_t i = begin; begin != std::string::npos && i < end; ++i)
+    if (Entry(lines[i], &name, &value) && SameName(name, key)) return CopyOut(Unquote(value), buffer, size);
+  return CopyOut(defaultValue, buffer, size);
+}
+
+bool PortableProfile::WritePrivateProfileStringA(const std::string& section, const std::string& key,
+                                                 const std::string& value, const std::string& fileName) {
+  std::string text;
+  if (CurrentFileSystem().ReadFile(fileName, &text) == FileStatus::kError) return false;
+  std::vector<std::string> lines = SplitLines(text);
+  const std::string entry = key + "=" + value;
+  auto [begin, end] = FindSection(lines, section);
+  if (begin == std::string::npos) {
+    if (!lines.empty() && !TrimBlanks(lines.back()).empty()) lines.emplace_back();
+    lines.push_back("[" + section + "]");
+    lines.push_back(entry);
+  } else {
+    std::string name, old;
+    size_t at = std::string::npos;
+    for (size_t i = begin; i < end && at == std::string::npos; ++i)
+      if (Entry(lines[i], &name, &old) && SameName(name, key)) at = i;
+    if (at != std::string::npos) {
+      lines[at] = entry;
+    } else {
+      size_t insert = end;
+      while (insert > begin && TrimBlanks(lines[insert - 1]).empty()) --insert;
+      lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(insert), entry);
+    }
+  }
+  std::string out;
+  for (const std::string& line : lines) out += line + "\r\n";
+  return ReplaceWholeFile(fileName, out);
+}
+
+}  // namespace jeerbox
