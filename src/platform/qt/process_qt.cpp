@@ -1,13 +1,6 @@
-// Linux's abstract socket names are per network namespace, not per user,
-// hence the uid in the lock's name; the display is in it too, so that each
-// desktop session of a user (a remote one, a private X server for tests)
-// has a lock of its own.
 #include "platform/qt/process_qt.h"
 
-#include <unistd.h>
-
 #include <QCoreApplication>
-#include <QLocalServer>
 #include <cstdlib>
 
 namespace jeerbox {
@@ -33,25 +26,11 @@ std::string JoinArguments(int argc, const char* const* argv) {
 }
 
 QtProcess::QtProcess(int argc, const char* const* argv, const std::string& lockName)
-    : mCommandLine(JoinArguments(argc, argv)),
-      mLockName(lockName + "-" + std::to_string(getuid()) + "-" + DisplaySession()) {}
-
-QtProcess::~QtProcess() = default;
+    : mCommandLine(JoinArguments(argc, argv)), mLock(lockName + "-" + DisplaySession()) {}
 
 std::string QtProcess::ExecutableDirectory() { return jeerbox::ExecutableDirectory(); }
 
-bool QtProcess::PrevInstance() {
-  if (mLock) return false;
-  auto server = std::make_unique<QLocalServer>();
-  server->setSocketOptions(QLocalServer::AbstractNamespaceOption);
-  if (!server->listen(QString::fromStdString(mLockName))) {
-    // Only a name in use means another copy; any other failure lets the
-    // program start rather than lock the user out.
-    return server->serverError() == QAbstractSocket::AddressInUseError;
-  }
-  mLock = std::move(server);
-  return false;
-}
+bool QtProcess::PrevInstance() { return mLock.HeldElsewhere(); }
 
 void QtProcess::End() {
   mEnded = true;

@@ -1,24 +1,21 @@
-// The process under Qt's event loop. The previous-instance lock is an
-// abstract-namespace local socket: nothing on disk, gone when the process
-// dies, however it dies.
+// The process under Qt's event loop; the previous instance is told by the
+// POSIX instance lock.
 #pragma once
 
-#include <memory>
 #include <string>
 
+#include "platform/posix/instance_lock.h"
 #include "platform/process.h"
-
-class QLocalServer;
 
 namespace jeerbox {
 
 class QtProcess : public IProcess {
  public:
   // Takes the command line before QApplication removes its own options from
-  // argv, so make it first. `lockName` tells programs apart; the user's id
-  // and the display are added to it.
+  // argv, so make it first. `lockName` tells programs apart; the display
+  // is added to it, so that each desktop session of a user (a remote one, a
+  // private X server for tests) has a lock of its own.
   QtProcess(int argc, const char* const* argv, const std::string& lockName);
-  ~QtProcess() override;
   QtProcess(const QtProcess&) = delete;
   QtProcess& operator=(const QtProcess&) = delete;
 
@@ -30,12 +27,11 @@ class QtProcess : public IProcess {
   void End() override;
   bool Ended() const override { return mEnded; }
 
-  const std::string& LockName() const { return mLockName; }
+  const std::string& LockName() const { return mLock.Name(); }
 
  private:
   std::string mCommandLine;
-  std::string mLockName;
-  std::unique_ptr<QLocalServer> mLock;
+  InstanceLock mLock;
   bool mEnded = false;
 };
 
