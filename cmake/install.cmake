@@ -76,6 +76,9 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.jeerbox.example.org")
 # dpkg-shlibdeps (dpkg-dev) names the runtime libraries from the programs
 # themselves, with the versions they were built against.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The audio and network libraries are loaded at run time, so the programs
+# don't name them: the package does.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsdl2-2.0-0, libsdl2-mixer-2.0-0, libcurl4")
 # The window's Tahoma-metric font; without it Qt falls back to a wider sans.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-wine")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)

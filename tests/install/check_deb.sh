@@ -53,7 +53,7 @@ depends=$(field Depends)
 echo "Depends: $depends"
 needed=(libc6 libstdc++6)
 [ "$has_window" = 1 ] &&
-  needed+=(libqt6widgets6 libqt6gui6 libqt6network6 libqt6core6 libsdl2-2.0-0 libsdl2-mixer-2.0-0 libcurl4)
+  needed+=(libqt6widgets6 libqt6gui6 libqt6core6 libsdl2-2.0-0 libsdl2-mixer-2.0-0 libcurl4)
 for lib in "${needed[@]}"; do
   printf '%s\n' "$depends" | tr ',' '\n' | grep -q "^ *$lib\( \|$\)" || fail "Depends does not name $lib"
 done

@@ -24,6 +24,9 @@ extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1.so
 int main(int argc, char* argv[]) {
   // Before QApplication takes its own options out of argv.
   jeerbox::QtProcess process(argc, argv, "jeerbox");
+  // Audio counts its devices on a thread of its own while Qt comes up; with
+  // no sound device the audio form stays silent.
+  const jeerbox::SdlAudio audio = jeerbox::StartSdlAudio();
   QApplication app(argc, argv);
   jeerbox::LoadDialogFont();
 
@@ -31,9 +34,6 @@ int main(int argc, char* argv[]) {
   jeerbox::QtClipboard clipboard;
   jeerbox::CurlInternet internet;
   jeerbox::QtShell shell;
-  // With no sound device the audio form stays silent.
-  const std::unique_ptr<jeerbox::IAudioControl> audioControl = jeerbox::CreateSdlAudioControl();
-  const std::unique_ptr<jeerbox::IWaveDevices> waveDevices = jeerbox::CreateSdlWaveDevices();
 
   jeerbox::AppServices services;
   services.process = &process;
@@ -41,8 +41,8 @@ int main(int argc, char* argv[]) {
   services.clipboard = &clipboard;
   services.internet = &internet;
   services.shell = &shell;
-  services.audioControl = audioControl.get();
-  services.waveDevices = waveDevices.get();
+  services.audioControl = audio.control.get();
+  services.waveDevices = audio.devices.get();
   services.makeMainView = [](jeerbox::FJeerbox& form) {
     return std::make_unique<jeerbox::JeerboxDialog>(form);
   };

@@ -1,11 +1,11 @@
-// libcurl behind the Internet calls. Handles are small heap objects that
-// say which kind they are, so closing either kind goes through one call.
+// libcurl behind the Internet calls, loaded on the first of them. Handles
+// are small heap objects that say which kind they are, so closing either
+// kind goes through one call.
 #include "platform/curl/internet_curl.h"
 
-#include <curl/curl.h>
-
-#include <mutex>
 #include <string>
+
+#include "platform/curl/curl_library.h"
 
 namespace jeerbox {
 namespace {
@@ -19,19 +19,14 @@ struct Handle {
   long status = 0;    // requests only: the HTTP status the server answered
 };
 
-void InitCurlOnce() {
-  static std::once_flag once;
-  std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
-}
-
 size_t DiscardBody(char*, size_t size, size_t count, void*) { return size * count; }
 
 // The cache flags become request headers: any cache on the way must pass the
 // request on to the server.
-curl_slist* CacheHeaders(uint32_t flags) {
+curl_slist* CacheHeaders(const CurlLibrary& curl, uint32_t flags) {
   if ((flags & (INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE)) == 0) return nullptr;
-  curl_slist* list = curl_slist_append(nullptr, "Cache-Control: no-cache");
-  return curl_slist_append(list, "Pragma: no-cache");
+  curl_slist* list = curl.curl_slist_append(nullptr, "Cache-Control: no-cache");
+  return curl.curl_slist_append(list, "Pragma: no-cache");
 }
 
 }  // namespace
@@ -40,7 +35,7 @@ CurlInternet::CurlInternet(long connectTimeoutMs, long totalTimeoutMs)
     : mConnectTimeoutMs(connectTimeoutMs), mTotalTimeoutMs(totalTimeoutMs) {}
 
 HINTERNET CurlInternet::InternetOpenA(const char* agent, uint32_t, const char*, const char*, uint32_t) {
-  InitCurlOnce();
+  if (Curl() == nullptr) return nullptr;
   auto* session = new Handle(HandleKind::kSession);
   session->agent = agent ? agent : "";
   return session;
@@ -50,24 +45,25 @@ HINTERNET CurlInternet::InternetOpenUrlA(HINTERNET internet, const char* url, co
                                          uint32_t flags, uintptr_t) {
   auto* session = static_cast<Handle*>(internet);
   if (!session || session->kind != HandleKind::kSession || !url) return nullptr;
-  CURL* curl = curl_easy_init();
-  if (!curl) return nullptr;
-  curl_slist* headers = CacheHeaders(flags);
-  curl_easy_setopt(curl, CURLOPT_URL, url);
-  curl_easy_setopt(curl, CURLOPT_USERAGENT, session->agent.c_str());
-  curl_easy_setopt(curl, CURLOPT_HTTPHEADER, headers);
-  curl_easy_setopt(curl, CURLOPT_HTTPGET, 1L);
-  curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 0L);
-  curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
-  curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT_MS, mConnectTimeoutMs);
-  curl_easy_setopt(curl, CURLOPT_TIMEOUT_MS, mTotalTimeoutMs);
-  curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, DiscardBody);
-  curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
-  const CURLcode result = curl_easy_perform(curl);
+  const CurlLibrary* lib = Curl();
+  CURL* easy = lib ? lib->curl_easy_init() : nullptr;
+  if (!easy) return nullptr;
+  curl_slist* headers = CacheHeaders(*lib, flags);
+  lib->curl_easy_setopt(easy, CURLOPT_URL, url);
+  lib->curl_easy_setopt(easy, CURLOPT_USERAGENT, session->agent.c_str());
+  lib->curl_easy_setopt(easy, CURLOPT_HTTPHEADER, headers);
+  lib->curl_easy_setopt(easy, CURLOPT_HTTPGET, 1L);
+  lib->curl_easy_setopt(easy, CURLOPT_FOLLOWLOCATION, 0L);
+  lib->curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+  lib->curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, mConnectTimeoutMs);
+  lib->curl_easy_setopt(easy, CURLOPT_TIMEOUT_MS, mTotalTimeoutMs);
+  lib->curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, DiscardBody);
+  lib->curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
+  const CURLcode result = lib->curl_easy_perform(easy);
   long status = 0;
-  curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &status);
-  curl_easy_cleanup(curl);
-  curl_slist_free_all(headers);
+  lib->curl_easy_getinfo(easy, CURLINFO_RESPONSE_CODE, &status);
+  lib->curl_easy_cleanup(easy);
+  lib->curl_slist_free_all(headers);
   // Any HTTP answer counts, whatever its status; no answer (refused, silent,
   // not HTTP, timed out) is a failure.
   if (result != CURLE_OK || status == 0) return nullptr;

@@ -2,27 +2,12 @@
 // thread; every call here only starts, stops or swaps sounds and returns.
 #include "platform/sdl/audio_control_sdl.h"
 
-#include <SDL.h>
-#include <SDL_mixer.h>
-
 #include <algorithm>
 
 #include "platform/file_system.h"
 #include "platform/sdl/audio_sdl.h"
 
 namespace jeerbox {
-namespace {
-
-constexpr int kChunkSize = 2048;
-
-// SDL must not take SIGINT and SIGTERM away from the program: a window
-// program never services its quit event, and would then ignore kill.
-bool StartSdlAudio() {
-  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-  return SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
-}
-
-}  // namespace
 
 void PanVolumes(int32_t pan, uint8_t* left, uint8_t* right) {
   const int32_t clamped = std::clamp(pan, -90, 90);
@@ -30,86 +15,87 @@ void PanVolumes(int32_t pan, uint8_t* left, uint8_t* right) {
   *right = static_cast<uint8_t>(clamped >= 0 ? 255 : 255 * (90 + clamped) / 90);
 }
 
+SdlAudioControl::SdlAudioControl(std::shared_ptr<SdlAudioHost> host) : mHost(std::move(host)) {}
+
 SdlAudioControl::~SdlAudioControl() { CloseMixer(); }
 
 bool SdlAudioControl::OpenMixer(int32_t, int32_t sampleRate, bool, bool) {
-  if (mOpen) return true;
-  if (!StartSdlAudio()) return false;
-  Mix_Init(MIX_INIT_MP3);
-  if (Mix_OpenAudio(sampleRate > 0 ? sampleRate : 44100, AUDIO_S16SYS, 2, kChunkSize) != 0) {
-    Mix_Quit();
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
-    return false;
-  }
-  Mix_AllocateChannels(kChannels);
-  mOpen = true;
+  if (!mOpening) mHost->BeginOpen(sampleRate);
+  mOpening = true;
   return true;
 }
 
 bool SdlAudioControl::ResetMixer() {
-  if (mOpen) Mix_HaltChannel(-1);
-  for (int i = 0; i < kChannels; ++i) FreeChunk(i);
+  if (const SdlLibrary* sdl = mHost->Mixer()) {
+    sdl->Mix_HaltChannel(-1);
+    for (int i = 0; i < kChannels; ++i) FreeChunk(*sdl, i);
+  }
   mPans.fill(0);
   CloseMusic();
   return true;
 }
 
 bool SdlAudioControl::CloseMusic() {
-  if (mMusic == nullptr) return true;
-  Mix_HaltMusic();
-  Mix_FreeMusic(mMusic);
+  const SdlLibrary* sdl = mHost->Mixer();
+  if (mMusic == nullptr || sdl == nullptr) return true;
+  sdl->Mix_HaltMusic();
+  sdl->Mix_FreeMusic(mMusic);
   mMusic = nullptr;
   return true;
 }
 
 bool SdlAudioControl::CloseMixer() {
   ResetMixer();
-  if (!mOpen) return true;
-  Mix_CloseAudio();
-  Mix_Quit();
-  SDL_QuitSubSystem(SDL_INIT_AUDIO);
-  mOpen = false;
+  mHost->Close();
+  mOpening = false;
   return true;
 }
 
 bool SdlAudioControl::LoadMusic(const std::string& fileName) {
-  if (!mOpen) return false;
+  const SdlLibrary* sdl = mHost->Mixer();
+  if (sdl == nullptr) return false;
   CloseMusic();
-  mMusic = Mix_LoadMUS(NativePath(fileName).c_str());
+  mMusic = sdl->Mix_LoadMUS(NativePath(fileName).c_str());
   return mMusic != nullptr;
 }
 
 bool SdlAudioControl::PlayMusic(bool looping) {
-  if (!mOpen || mMusic == nullptr) return false;
-  return Mix_PlayMusic(mMusic, looping ? -1 : 0) == 0;
+  const SdlLibrary* sdl = mHost->Mixer();
+  if (sdl == nullptr || mMusic == nullptr) return false;
+  return sdl->Mix_PlayMusic(mMusic, looping ? -1 : 0) == 0;
 }
 
 bool SdlAudioControl::StopMusic() {
-  if (!mOpen) return false;
-  Mix_HaltMusic();
+  const SdlLibrary* sdl = mHost->Mixer();
+  if (sdl == nullptr) return false;
+  sdl->Mix_HaltMusic();
   return true;
 }
 
 bool SdlAudioControl::PauseMusic() {
-  if (!mOpen) return false;
-  Mix_PauseMusic();
+  const SdlLibrary* sdl = mHost->Mixer();
+  if (sdl == nullptr) return false;
+  sdl->Mix_PauseMusic();
   return true;
 }
 
 bool SdlAudioControl::ResumeMusic() {
-  if (!mOpen) return false;
-  Mix_ResumeMusic();
+  const SdlLibrary* sdl = mHost->Mixer();
+  if (sdl == nullptr) return false;
+  sdl->Mix_ResumeMusic();
   return true;
 }
 
 std::optional<bool> SdlAudioControl::MusicCanPause() {
-  if (!mOpen) return std::nullopt;
-  return Mix_PlayingMusic() != 0 && Mix_PausedMusic() == 0;
+  const SdlLibrary* sdl = mHost->Mixer();
+  if (sdl == nullptr) return std::nullopt;
+  return sdl->Mix_PlayingMusic() != 0 && sdl->Mix_PausedMusic() == 0;
 }
 
 std::optional<bool> SdlAudioControl::MusicCanResume() {
-  if (!mOpen) return std::nullopt;
-  return Mix_PausedMusic() != 0;
+  const SdlLibrary* sdl = mHost->Mixer();
+  if (sdl == nullptr) return std::nullopt;
+  return sdl->Mix_PausedMusic() != 0;
 }
 
 bool SdlAudioControl::SetChannel(int32_t channel) {
@@ -127,9 +113,10 @@ bool SdlAudioControl::SetChannelPan(int32_t pan) {
 bool SdlAudioControl::LoadChannel(const std::string& fileName) {
   const int index = SelectedMixerChannel();
   if (index < 0) return false;
-  Mix_Chunk* chunk = Mix_LoadWAV(NativePath(fileName).c_str());
+  const SdlLibrary& sdl = *mHost->Mixer();
+  Mix_Chunk* chunk = sdl.Mix_LoadWAV_RW(sdl.SDL_RWFromFile(NativePath(fileName).c_str(), "rb"), 1);
   if (chunk == nullptr) return false;
-  FreeChunk(index);
+  FreeChunk(sdl, index);
   mChunks[static_cast<size_t>(index)] = chunk;
   return true;
 }
@@ -139,38 +126,56 @@ bool SdlAudioControl::LoadChannel(const std::string& fileName) {
 bool SdlAudioControl::PlayChannel(bool) {
   const int index = SelectedMixerChannel();
   if (index < 0 || mChunks[static_cast<size_t>(index)] == nullptr) return false;
-  Mix_HaltChannel(index);
+  const SdlLibrary& sdl = *mHost->Mixer();
+  sdl.Mix_HaltChannel(index);
   uint8_t left = 255, right = 255;
   PanVolumes(mPans[static_cast<size_t>(index)], &left, &right);
-  Mix_SetPanning(index, left, right);
-  return Mix_PlayChannel(index, mChunks[static_cast<size_t>(index)], 0) == index;
+  sdl.Mix_SetPanning(index, left, right);
+  return sdl.Mix_PlayChannelTimed(index, mChunks[static_cast<size_t>(index)], 0, -1) == index;
 }
 
 bool SdlAudioControl::ClearChannel() {
   const int index = SelectedMixerChannel();
   if (index < 0) return false;
-  Mix_HaltChannel(index);
-  FreeChunk(index);
+  const SdlLibrary& sdl = *mHost->Mixer();
+  sdl.Mix_HaltChannel(index);
+  FreeChunk(sdl, index);
   return true;
 }
 
 bool SdlAudioControl::StopChannel() {
   const int index = SelectedMixerChannel();
   if (index < 0) return false;
-  Mix_HaltChannel(index);
+  mHost->Mixer()->Mix_HaltChannel(index);
   return true;
 }
 
-int SdlAudioControl::SelectedMixerChannel() const { return mOpen && mChannel >= 1 ? mChannel - 1 : -1; }
+int SdlAudioControl::SelectedMixerChannel() { return mChannel >= 1 && IsOpen() ? mChannel - 1 : -1; }
 
 // Mix_FreeChunk halts any channel still playing the chunk first.
-void SdlAudioControl::FreeChunk(int index) {
+void SdlAudioControl::FreeChunk(const SdlLibrary& sdl, int index) {
   Mix_Chunk*& chunk = mChunks[static_cast<size_t>(index)];
   if (chunk == nullptr) return;
-  Mix_FreeChunk(chunk);
+  sdl.Mix_FreeChunk(chunk);
   chunk = nullptr;
 }
 
-std::unique_ptr<IAudioControl> CreateSdlAudioControl() { return std::make_unique<SdlAudioControl>(); }
+namespace {
+
+class SdlWaveDevices : public IWaveDevices {
+ public:
+  explicit SdlWaveDevices(std::shared_ptr<SdlAudioHost> host) : mHost(std::move(host)) {}
+  unsigned waveOutGetNumDevs() override { return mHost->DeviceCount(); }
+
+ private:
+  std::shared_ptr<SdlAudioHost> mHost;
+};
+
+}  // namespace
+
+SdlAudio StartSdlAudio() {
+  auto host = std::make_shared<SdlAudioHost>();
+  return {std::make_unique<SdlAudioControl>(host), std::make_unique<SdlWaveDevices>(host)};
+}
 
 }  // namespace jeerbox

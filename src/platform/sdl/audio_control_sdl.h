@@ -1,17 +1,17 @@
 // The mixer control on SDL2_mixer's channel API. Channels 1 to 32 of the
 // control are the mixer's channels 0 to 31; every call is safe whether or
 // not the mixer is open, and a call that can't be done returns false.
+// OpenMixer only starts the opening (on the audio host's thread); a call
+// that needs the mixer waits until it is open or has failed.
 #pragma once
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "platform/audio_control.h"
-
-// SDL_mixer's own names, declared here so users of this header need no SDL.
-struct Mix_Chunk;
-typedef struct _Mix_Music Mix_Music;  // NOLINT(bugprone-reserved-identifier)
+#include "platform/sdl/sdl_audio_host.h"
 
 namespace jeerbox {
 
@@ -19,13 +19,14 @@ class SdlAudioControl : public IAudioControl {
  public:
   static constexpr int kChannels = 32;
 
-  SdlAudioControl() = default;
+  explicit SdlAudioControl(std::shared_ptr<SdlAudioHost> host = std::make_shared<SdlAudioHost>());
   ~SdlAudioControl() override;
   SdlAudioControl(const SdlAudioControl&) = delete;
   SdlAudioControl& operator=(const SdlAudioControl&) = delete;
 
   // The window handle and the two flags mean nothing here: SDL opens the
-  // default output device, in 16-bit stereo.
+  // default output device, in 16-bit stereo. True once the opening has
+  // started; whether it succeeded shows in the calls that follow.
   bool OpenMixer(int32_t windowHandle, int32_t sampleRate, bool flag1, bool flag2) override;
   // Stops everything and frees every loaded sound; the mixer stays open.
   bool ResetMixer() override;
@@ -48,15 +49,17 @@ class SdlAudioControl : public IAudioControl {
   bool ClearChannel() override;
   bool StopChannel() override;
 
-  bool IsOpen() const { return mOpen; }
+  // Waits for an opening under way.
+  bool IsOpen() { return mHost->Mixer() != nullptr; }
 
  private:
   // The mixer's index of the selected channel, or -1 when none is selected
   // or the mixer is closed.
-  int SelectedMixerChannel() const;
-  void FreeChunk(int index);
+  int SelectedMixerChannel();
+  void FreeChunk(const SdlLibrary& sdl, int index);
 
-  bool mOpen = false;
+  std::shared_ptr<SdlAudioHost> mHost;
+  bool mOpening = false;
   int32_t mChannel = 0;
   std::array<Mix_Chunk*, kChannels> mChunks{};
   std::array<int32_t, kChannels> mPans{};

@@ -1,5 +1,6 @@
-// The mixer control and the device count on SDL2_mixer. Only the program
-// links this; the core and its tests know the interfaces alone.
+// The mixer control and the device count on SDL2_mixer, sharing one audio
+// host. Only the program links this; the core and its tests know the
+// interfaces alone.
 #pragma once
 
 #include <memory>
@@ -9,9 +10,13 @@
 
 namespace jeerbox {
 
-// 32 channels and one music slot. Nothing is opened until OpenMixer.
-std::unique_ptr<IAudioControl> CreateSdlAudioControl();
-// Counts the audio output devices SDL sees; 0 where audio can't start.
-std::unique_ptr<IWaveDevices> CreateSdlWaveDevices();
+struct SdlAudio {
+  std::unique_ptr<IAudioControl> control;  // 32 channels and one music slot
+  std::unique_ptr<IWaveDevices> devices;
+};
+
+// Starts counting the output devices at once, on a thread of its own, so
+// make it early; nothing is opened until OpenMixer.
+SdlAudio StartSdlAudio();
 
 }  // namespace jeerbox

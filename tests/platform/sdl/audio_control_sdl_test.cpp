@@ -118,6 +118,7 @@ class SdlAudioTest : public ::testing::Test {
 TEST_F(SdlAudioTest, OpensSixteenBitStereoAtTheAskedRate) {
   SdlAudioControl control;
   ASSERT_TRUE(control.OpenMixer(0, 44100, false, false));
+  ASSERT_TRUE(control.IsOpen());  // the opening runs on the host's thread
   int rate = 0, channels = 0;
   Uint16 format = 0;
   ASSERT_EQ(Mix_QuerySpec(&rate, &format, &channels), 1);
@@ -298,11 +299,13 @@ TEST_F(SdlAudioTest, LoadingIntoABusyChannelReplacesItsSound) {
 }
 
 TEST_F(SdlAudioTest, DeviceCountFollowsTheDriver) {
-  EXPECT_EQ(CreateSdlWaveDevices()->waveOutGetNumDevs(), 1u);
+  EXPECT_EQ(StartSdlAudio().devices->waveOutGetNumDevs(), 1u);
   setenv("SDL_AUDIODRIVER", "no-such-driver", 1);
-  EXPECT_EQ(CreateSdlWaveDevices()->waveOutGetNumDevs(), 0u);
+  EXPECT_EQ(StartSdlAudio().devices->waveOutGetNumDevs(), 0u);
   SdlAudioControl control;
-  EXPECT_FALSE(control.OpenMixer(0, 44100, false, false));
+  control.OpenMixer(0, 44100, false, false);
+  EXPECT_FALSE(control.IsOpen());
+  EXPECT_FALSE(control.LoadChannel(mTone));
   EXPECT_TRUE(control.ResetMixer());
   EXPECT_TRUE(control.CloseMixer());
 }
@@ -331,9 +334,8 @@ TEST_F(SdlAudioTest, LaughFromTheMediaDirectoryReachesTheOutput) {
   mDir.Write("app/UserInfo/Tallowick.cfg", "[TW]\r\nEnableFX=True\r\nEnableMusic=False\r\n");
   gAppPath = mDir.Path() + "\\app";
   {
-    auto control = CreateSdlAudioControl();
-    auto devices = CreateSdlWaveDevices();
-    FDMC form(*control, *devices);
+    const SdlAudio audio = StartSdlAudio();
+    FDMC form(*audio.control, *audio.devices);
     gFDMC = &form;
     form.Setup();
     ASSERT_TRUE(form.EnableFX());
