@@ -3,6 +3,7 @@
 #include "cli/wordlist_source.h"
 
 #include "cli/escape.h"
+#include "support/text_lines.h"
 #include "text/MSimpleCrypto.h"
 
 namespace jeerbox {
@@ -78,15 +79,10 @@ std::string PackedName(const std::string& family, int number) {
 std::vector<SourceLine> ParseSource(const std::string& fileName, std::string_view bytes,
                                     std::vector<Diagnostic>* diagnostics) {
   std::vector<SourceLine> lines;
-  size_t start = 0;
-  for (int number = 1; start < bytes.size(); ++number) {
-    size_t end = bytes.find('\n', start);
-    if (end == std::string_view::npos) end = bytes.size();
-    std::string_view line = bytes.substr(start, end - start);
-    if (end < bytes.size() && !line.empty() && line.back() == '\r') line.remove_suffix(1);
-    start = end + 1;
+  int number = 0;
+  for (std::string_view line : SplitLfLines(bytes)) {
     std::string problem;
-    SourceLine parsed = Classify(line, number, &problem);
+    SourceLine parsed = Classify(line, ++number, &problem);
     if (problem.empty())
       lines.push_back(std::move(parsed));
     else
