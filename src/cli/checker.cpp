@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <iomanip>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -15,15 +16,9 @@
 #include "text/CTextGenerator.h"
 #include "text/MSimpleCrypto.h"
 #include "text/shorthand.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
-
-const std::vector<ProgramKey> kProgramKeys = {
-    {"Misc-Jeerbox-WhoSays", 1},   {"Misc-Jeerbox-Person", 1}, {"Misc-Jeerbox-HowBig", 1},
-    {"Misc-Jeerbox-Adjective", 3}, {"Misc-Jeerbox-Noun", 1},   {"Misc-Jeerbox-AndMore", 1},
-    {"Misc-Jeerbox-Someone", 1},   {"General-Insult", 1},      {"General-Curse", 1},
-    {"General-AutoDealer", 1},     {"General-Exclaim", 1},     {"General-Character", 1},
-};
 
 int CheckReport::ProblemCount() const {
   size_t count = 0;
@@ -203,9 +198,9 @@ void CheckLines(const LineList& lines, KeyReport* report,
   report->lines = static_cast<int>(lines.size());
   report->distinct = static_cast<int>(texts.size());
   findings.AppendTo(&report->problems);
-  const auto program = std::find_if(kProgramKeys.begin(), kProgramKeys.end(),
+  const auto program = std::find_if(std::begin(kProgramKeys), std::end(kProgramKeys),
                                     [&](const ProgramKey& key) { return key.key == report->key; });
-  if (program == kProgramKeys.end()) {
+  if (program == std::end(kProgramKeys)) {
     report->problems.emplace_back("the program never asks for this key");
   } else if (!lines.empty() && program->minimum > 1 && SideBySide(texts) < program->minimum) {
     report->problems.push_back("only " + std::to_string(SideBySide(texts)) +

@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "text/MSimpleCrypto.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 namespace {

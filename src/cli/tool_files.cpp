@@ -90,16 +90,4 @@ bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names, 
   return true;
 }
 
-std::vector<std::string_view> SplitCrLf(std::string_view bytes) {
-  std::vector<std::string_view> lines;
-  size_t start = 0;
-  while (start < bytes.size()) {
-    size_t end = bytes.find("\r\n", start);
-    if (end == std::string_view::npos) end = bytes.size();
-    lines.push_back(bytes.substr(start, end - start));
-    start = end + 2;
-  }
-  return lines;
-}
-
 }  // namespace jeerbox

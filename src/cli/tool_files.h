@@ -27,8 +27,4 @@ bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& 
 // Removes dir/name for each name; false with a reason at the first failure.
 bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names, std::string* error);
 
-// The lines of a System\ file split at CR LF, as the tools read them: no
-// final empty line behind a last CR LF.
-std::vector<std::string_view> SplitCrLf(std::string_view bytes);
-
 }  // namespace jeerbox

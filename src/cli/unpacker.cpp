@@ -5,6 +5,7 @@
 
 #include "cli/tool_files.h"
 #include "text/MSimpleCrypto.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 namespace {

@@ -58,8 +58,4 @@ std::string DataLineProblem(const std::string& text);
 // The reason a key can't be a head in a file of `family`, or "".
 std::string KeyProblem(const std::string& key, const std::string& family);
 
-// The most data lines a key may hold over its family, and the most pieces
-// one section may split into.
-constexpr int kMaxLinesPerKey = 32767;
-
 }  // namespace jeerbox
