@@ -117,28 +117,34 @@ struct FamilyScan {
   std::map<std::string, int> droppedPerKey;
 };
 
+// Lines that would be data in a section: in front of the first head the
+// reader never looks at them.
+bool ReadsAsText(StoredLine kind) {
+  return kind == StoredLine::kData || kind == StoredLine::kLoneCr || kind == StoredLine::kStrayBracket;
+}
+
 // What the reader passes over in one file: data-like lines in front of the
 // first head, lines of blanks, and second sections of a key.
-void ScanFile(const std::string& name, const std::string& bytes, FamilyScan* scan, FamilyReport* family) {
+void ScanFile(const std::string& name, std::string_view bytes, FamilyScan* scan, FamilyReport* family) {
   std::set<std::string> keys;
   std::string current;
   int ignored = 0;
   const std::vector<std::string_view> lines = SplitCrLf(bytes);
   for (size_t i = 0; i < lines.size(); ++i) {
-    const std::string_view line = lines[i];
     const std::string where = name + ":" + std::to_string(i + 1) + ": ";
-    if (line.size() >= 2 && line.front() == '[' && line.back() == ']') {
-      current = SimpleCrypt(line.substr(1, line.size() - 2));
+    const StoredLine kind = ClassifyStoredLine(lines[i], !current.empty());
+    if (kind == StoredLine::kHead) {
+      current = SimpleCrypt(HeadKey(lines[i]));
       if (!keys.insert(current).second)
         family->problems.push_back(where + "a second section of key \"" + EscapeBytes(current) +
                                    "\", never read");
       else
         ++scan->filesPerKey[current];
-    } else if (!line.empty() && line.find_first_not_of(' ') == std::string_view::npos) {
+    } else if (kind == StoredLine::kBlanks) {
       // Right in front of a head the blanks carry the CR and are read.
-      const bool beforeHead = i + 1 < lines.size() && !lines[i + 1].empty() && lines[i + 1].front() == '[';
+      const bool beforeHead = i + 1 < lines.size() && EndsSection(lines[i + 1]);
       if (!current.empty() && !beforeHead) ++scan->droppedPerKey[current];
-    } else if (current.empty() && !line.empty() && line.front() != ';' && line != SimpleCrypt("<XT>")) {
+    } else if (current.empty() && ReadsAsText(kind)) {
       ++ignored;
     }
   }
@@ -150,22 +156,23 @@ void ScanFile(const std::string& name, const std::string& bytes, FamilyScan* sca
 FamilyReport CheckFamily(const std::string& family, const std::set<int>& present, FamilyScan* scan) {
   FamilyReport report;
   report.family = family;
-  const std::string marker = SimpleCrypt("<XT>");
   int n = 1;
   for (; n <= kMaxFileNumber; ++n) {
-    const std::string path = CTextGenerator::BuildTextFileName(family + "-", n);
+    const std::string name = NumberedFileName(family, n);
+    const std::string path = CTextGenerator::SystemDirectory() + "\\" + name;
     if (!FileExists(path)) break;
     const std::string bytes = ReadWholeFile(path);
     ++report.files;
-    if (bytes.find(marker) != std::string::npos) ++report.marked;
-    ScanFile(PackedName(family, n), bytes, scan, &report);
+    if (HoldsMarker(bytes)) ++report.marked;
+    ScanFile(name, bytes, scan, &report);
   }
   if (n == 1)
-    report.problems.push_back("no file " + PackedName(family, 1) + ": nothing of the family is read");
+    report.problems.push_back("no file " + NumberedFileName(family, 1) + ": nothing of the family is read");
   for (int number : present)
     if (number > n)
-      report.problems.push_back(PackedName(family, number) +
-                                " is never read: the program stops at the missing " + PackedName(family, n));
+      report.problems.push_back(NumberedFileName(family, number) +
+                                " is never read: the program stops at the missing " +
+                                NumberedFileName(family, n));
   return report;
 }
 
@@ -238,7 +245,7 @@ void PresentNumbers(const std::string& systemDir, std::map<std::string, std::set
   for (const std::string& name : names) {
     std::string family;
     int number = 0;
-    if (ParsePackedName(name, &family, &number)) (*families)[family].insert(number);
+    if (ParseNumberedFileName(name, &family, &number)) (*families)[family].insert(number);
   }
 }
 
@@ -246,10 +253,9 @@ void PresentNumbers(const std::string& systemDir, std::map<std::string, std::set
 
 CheckReport CheckSystem() {
   CheckReport report;
-  report.systemDir = NativePath(gAppPath + "\\System");
+  report.systemDir = NativePath(CTextGenerator::SystemDirectory());
   std::map<std::string, std::set<int>> present;
-  for (const ProgramKey& key : kProgramKeys)
-    present[std::string(key.key).substr(0, std::string(key.key).find('-'))];
+  for (const ProgramKey& key : kProgramKeys) present[KeyFamily(key.key)];
   PresentNumbers(report.systemDir, &present);
 
   std::set<std::string> keys;
@@ -265,7 +271,7 @@ CheckReport CheckSystem() {
   for (const std::string& key : keys) {
     KeyReport keyReport;
     keyReport.key = key;
-    const FamilyScan& scan = scans[key.substr(0, key.find('-'))];
+    const FamilyScan& scan = scans[KeyFamily(key)];
     keyReport.files = scan.filesPerKey.count(key) ? scan.filesPerKey.at(key) : 0;
     LineList lines = generator.GetCacheItem(key);
     if (lines.size() == 1 && lines[0].empty()) {

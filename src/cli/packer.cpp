@@ -10,11 +10,6 @@
 namespace jeerbox {
 namespace {
 
-const std::string& StoredMarker() {
-  static const std::string marker = SimpleCrypt("<XT>");
-  return marker;
-}
-
 // Where each written line came from, to name the source line of a byte.
 struct WrittenLine {
   size_t offset;
@@ -59,7 +54,7 @@ class SourcePacker {
   void Write(const std::string& bytes, int sourceLine, std::string what) {
     mWritten.push_back({mOut.size(), sourceLine, std::move(what)});
     mOut += bytes;
-    mOut += "\r\n";
+    mOut += kLineEnd;
     ++mSectionPieces;
   }
 
@@ -75,7 +70,7 @@ class SourcePacker {
         mNeedsSeparator = false;
         break;
       case Kind::kMarker:
-        Write(";" + StoredMarker(), line.number, "the marker");
+        Write(MarkerCommentLine(), line.number, "the marker");
         stats->marked = true;
         mNeedsSeparator = false;
         break;
@@ -103,9 +98,9 @@ class SourcePacker {
     // An empty line keeps a data line in front of the head from ending in
     // the CR of the line end when read.
     if (mNeedsSeparator) Write("", line.number, "an empty line");
-    const std::string stored = SimpleCrypt(line.text);
-    mHeads.push_back({line.text, stored, mOut.size() + 1, line.number, duplicate});
-    Write("[" + stored + "]", line.number, "the head of key \"" + line.text + "\"");
+    const std::string head = HeadLine(line.text);
+    mHeads.push_back({line.text, std::string(HeadKey(head)), mOut.size() + 1, line.number, duplicate});
+    Write(head, line.number, "the head of key \"" + line.text + "\"");
     mSectionPieces = 0;
     mSectionLine = line.number;
     mNeedsSeparator = true;
@@ -167,7 +162,7 @@ void CheckNumbering(const std::map<std::string, std::map<int, std::string>>& fam
     for (const auto& [number, name] : files) {
       if (number != expected) {
         diagnostics->push_back({name, 0,
-                                "family " + family + " has no file " + PackedName(family, expected) +
+                                "family " + family + " has no file " + NumberedFileName(family, expected) +
                                     ".txt in front of this one; the program stops reading at the gap"});
         break;
       }
@@ -208,7 +203,7 @@ PackResult PackSources(const std::vector<NamedFile>& sources) {
     PackStats stats;
     std::string bytes = PackSource(sources[i].name, names[i].first, sources[i].bytes, &result.diagnostics,
                                    &keyLines[names[i].first], &stats);
-    result.files.push_back({PackedName(names[i].first, names[i].second), std::move(bytes)});
+    result.files.push_back({NumberedFileName(names[i].first, names[i].second), std::move(bytes)});
     result.stats.push_back(stats);
   }
   for (const auto& [family, keys] : keyLines)
@@ -277,7 +272,7 @@ int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ost
     for (const std::string& name : existing) {
       std::string family;
       int number = 0;
-      if (ParsePackedName(name, &family, &number) && !written.count(name) &&
+      if (ParseNumberedFileName(name, &family, &number) && !written.count(name) &&
           std::binary_search(result.families.begin(), result.families.end(), family))
         stale.push_back(name);
     }

@@ -29,12 +29,9 @@ struct Diagnostic {
   std::string ToString() const;
 };
 
-// A source or System\ file name split into family and number: "Misc.001.txt"
-// (source) or "Misc.001" (packed). False for any other name.
+// A source file name split into family and number: "Misc.001.txt" ->
+// "Misc", 1. False for any other name.
 bool ParseSourceName(std::string_view name, std::string* family, int* number);
-bool ParsePackedName(std::string_view name, std::string* family, int* number);
-// "Misc", 1 -> "Misc.001"
-std::string PackedName(const std::string& family, int number);
 
 // The directive line that makes a file marked, and the escape that makes
 // the rest of a line a data line whatever it begins with.
