@@ -159,7 +159,7 @@ FamilyReport CheckFamily(const std::string& family, const std::set<int>& present
   int n = 1;
   for (; n <= kMaxFileNumber; ++n) {
     const std::string name = NumberedFileName(family, n);
-    const std::string path = CTextGenerator::SystemDirectory() + "\\" + name;
+    const std::string path = JoinPath(CTextGenerator::SystemDirectory(), name);
     if (!FileExists(path)) break;
     const std::string bytes = ReadWholeFile(path);
     ++report.files;
@@ -256,7 +256,7 @@ CheckReport CheckSystem() {
   report.systemDir = NativePath(CTextGenerator::SystemDirectory());
   std::map<std::string, std::set<int>> present;
   for (const ProgramKey& key : kProgramKeys) present[KeyFamily(key.key)];
-  PresentNumbers(report.systemDir, &present);
+  PresentNumbers(CTextGenerator::SystemDirectory(), &present);
 
   std::set<std::string> keys;
   for (const ProgramKey& key : kProgramKeys) keys.insert(key.key);

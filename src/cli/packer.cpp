@@ -4,6 +4,7 @@
 #include <set>
 #include <tuple>
 
+#include "platform/file_system.h"
 #include "text/MSimpleCrypto.h"
 #include "text/wordlist_format.h"
 
@@ -239,14 +240,14 @@ int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ost
     int number = 0;
     if (!ParseSourceName(name, &family, &number)) continue;
     NamedFile source{name, ""};
-    if (!ReadFileBytes(sourceDir + "/" + name, &source.bytes, &error)) {
+    if (!ReadFileBytes(JoinPath(sourceDir, name), &source.bytes, &error)) {
       err << "jeer pack: " << error << "\n";
       return 1;
     }
     sources.push_back(std::move(source));
   }
   if (sources.empty()) {
-    err << "jeer pack: no word-list sources (FAMILY.NNN.txt) in " << sourceDir << "\n";
+    err << "jeer pack: no word-list sources (FAMILY.NNN.txt) in " << NativePath(sourceDir) << "\n";
     return 1;
   }
 
@@ -254,7 +255,7 @@ int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ost
   if (!result.diagnostics.empty()) {
     for (const Diagnostic& diagnostic : result.diagnostics) {
       Diagnostic shown = diagnostic;
-      shown.file = sourceDir + "/" + diagnostic.file;
+      shown.file = NativePath(JoinPath(sourceDir, diagnostic.file));
       err << shown.ToString() << "\n";
     }
     err << "jeer pack: " << result.diagnostics.size()
@@ -289,7 +290,7 @@ int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ost
   }
   for (const std::string& name : stale) out << "  " << name << "  removed: no source has it any more\n";
   out << "jeer pack: " << result.files.size() << (result.files.size() == 1 ? " file" : " files")
-      << " written to " << systemDir << "\n";
+      << " written to " << NativePath(systemDir) << "\n";
   return 0;
 }
 

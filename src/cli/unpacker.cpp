@@ -4,6 +4,7 @@
 #include <set>
 
 #include "cli/tool_files.h"
+#include "platform/file_system.h"
 #include "text/MSimpleCrypto.h"
 #include "text/wordlist_format.h"
 
@@ -92,7 +93,7 @@ int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::o
     int number = 0;
     if (!ParseNumberedFileName(name, &family, &number)) continue;
     std::string bytes;
-    if (!ReadFileBytes(systemDir + "/" + name, &bytes, &error)) {
+    if (!ReadFileBytes(JoinPath(systemDir, name), &bytes, &error)) {
       err << "jeer unpack: " << error << "\n";
       return 1;
     }
@@ -104,14 +105,18 @@ int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::o
       notes.push_back(
           {family, 0, "the numbering has a gap; the program reads only the files in front of it"});
   if (sources.empty()) {
-    err << "jeer unpack: no word-list files (FAMILY.NNN) in " << systemDir << "\n";
+    err << "jeer unpack: no word-list files (FAMILY.NNN) in " << NativePath(systemDir) << "\n";
     return 1;
   }
   for (const Diagnostic& note : notes)
-    err << systemDir << "/" << note.file << (note.line ? ":" + std::to_string(note.line) : "")
+    err << NativePath(JoinPath(systemDir, note.file)) << (note.line ? ":" + std::to_string(note.line) : "")
         << ": note: " << note.reason << "\n";
   if (!diagnostics.empty()) {
-    for (const Diagnostic& diagnostic : diagnostics) err << systemDir << "/" << diagnostic.ToString() << "\n";
+    for (const Diagnostic& diagnostic : diagnostics) {
+      Diagnostic shown = diagnostic;
+      shown.file = NativePath(JoinPath(systemDir, diagnostic.file));
+      err << shown.ToString() << "\n";
+    }
     err << "jeer unpack: " << diagnostics.size() << (diagnostics.size() == 1 ? " problem" : " problems")
         << "; nothing written\n";
     return 1;
@@ -122,7 +127,7 @@ int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::o
   }
   for (const NamedFile& source : sources) out << "  " << source.name << "\n";
   out << "jeer unpack: " << sources.size() << (sources.size() == 1 ? " file" : " files") << " written to "
-      << sourceDir << "\n";
+      << NativePath(sourceDir) << "\n";
   return 0;
 }
 
