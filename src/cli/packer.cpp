@@ -4,6 +4,7 @@
 #include <set>
 #include <tuple>
 
+#include "cli/tool_output.h"
 #include "platform/file_system.h"
 #include "text/MSimpleCrypto.h"
 #include "text/wordlist_format.h"
@@ -226,6 +227,37 @@ PackResult PackSources(const std::vector<NamedFile>& sources) {
   return result;
 }
 
+namespace {
+
+// What PackSources made, as pack ends: a line on each file, and the numbered
+// files of the packed families that the sources no longer make. Such a file
+// would still be read by the program: it goes.
+ToolOutput PackOutput(PackResult result, const std::string& systemDir) {
+  ToolOutput output;
+  output.diagnostics = std::move(result.diagnostics);
+  if (!output.diagnostics.empty()) return output;
+  for (const PackStats& stats : result.stats)
+    output.fileNotes.push_back(Plural(stats.keys, "key") + ", " + Plural(stats.lines, "line") +
+                               (stats.marked ? ", marked" : ""));
+  std::set<std::string> written;
+  for (const NamedFile& file : result.files) written.insert(file.name);
+  std::vector<std::string> existing;
+  std::string error;
+  if (ListFiles(systemDir, &existing, &error)) {
+    for (const std::string& name : existing) {
+      std::string family;
+      int number = 0;
+      if (ParseNumberedFileName(name, &family, &number) && !written.count(name) &&
+          std::binary_search(result.families.begin(), result.families.end(), family))
+        output.removals.push_back(name);
+    }
+  }
+  output.files = std::move(result.files);
+  return output;
+}
+
+}  // namespace
+
 int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ostream& out,
             std::ostream& err) {
   std::vector<std::string> names;
@@ -250,48 +282,7 @@ int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ost
     err << "jeer pack: no word-list sources (FAMILY.NNN.txt) in " << NativePath(sourceDir) << "\n";
     return 1;
   }
-
-  PackResult result = PackSources(sources);
-  if (!result.diagnostics.empty()) {
-    for (const Diagnostic& diagnostic : result.diagnostics) {
-      Diagnostic shown = diagnostic;
-      shown.file = NativePath(JoinPath(sourceDir, diagnostic.file));
-      err << shown.ToString() << "\n";
-    }
-    err << "jeer pack: " << result.diagnostics.size()
-        << (result.diagnostics.size() == 1 ? " problem" : " problems") << "; nothing written\n";
-    return 1;
-  }
-
-  // A numbered file of a packed family that the sources no longer make
-  // would still be read by the program: it goes.
-  std::set<std::string> written;
-  for (const NamedFile& file : result.files) written.insert(file.name);
-  std::vector<std::string> stale;
-  std::vector<std::string> existing;
-  if (ListFiles(systemDir, &existing, &error)) {
-    for (const std::string& name : existing) {
-      std::string family;
-      int number = 0;
-      if (ParseNumberedFileName(name, &family, &number) && !written.count(name) &&
-          std::binary_search(result.families.begin(), result.families.end(), family))
-        stale.push_back(name);
-    }
-  }
-
-  if (!WriteFilesAtomically(systemDir, result.files, &error) || !RemoveFiles(systemDir, stale, &error)) {
-    err << "jeer pack: " << error << "\n";
-    return 1;
-  }
-  for (size_t i = 0; i < result.files.size(); ++i) {
-    const PackStats& stats = result.stats[i];
-    out << "  " << result.files[i].name << "  " << stats.keys << (stats.keys == 1 ? " key, " : " keys, ")
-        << stats.lines << (stats.lines == 1 ? " line" : " lines") << (stats.marked ? ", marked" : "") << "\n";
-  }
-  for (const std::string& name : stale) out << "  " << name << "  removed: no source has it any more\n";
-  out << "jeer pack: " << result.files.size() << (result.files.size() == 1 ? " file" : " files")
-      << " written to " << NativePath(systemDir) << "\n";
-  return 0;
+  return FinishTool("jeer pack", sourceDir, systemDir, PackOutput(PackSources(sources), systemDir), out, err);
 }
 
 }  // namespace jeerbox

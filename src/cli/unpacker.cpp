@@ -3,7 +3,7 @@
 #include <map>
 #include <set>
 
-#include "cli/tool_files.h"
+#include "cli/tool_output.h"
 #include "platform/file_system.h"
 #include "text/MSimpleCrypto.h"
 #include "text/wordlist_format.h"
@@ -84,9 +84,7 @@ int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::o
     err << "jeer unpack: " << error << "\n";
     return 1;
   }
-  std::vector<Diagnostic> diagnostics;
-  std::vector<Diagnostic> notes;
-  std::vector<NamedFile> sources;
+  ToolOutput output;
   std::map<std::string, std::set<int>> families;
   for (const std::string& name : names) {
     std::string family;
@@ -98,37 +96,17 @@ int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::o
       return 1;
     }
     families[family].insert(number);
-    sources.push_back({name + ".txt", UnpackFile(name, bytes, &diagnostics, &notes)});
+    output.files.push_back({name + ".txt", UnpackFile(name, bytes, &output.diagnostics, &output.notes)});
   }
   for (const auto& [family, numbers] : families)
     if (*numbers.rbegin() != static_cast<int>(numbers.size()))
-      notes.push_back(
+      output.notes.push_back(
           {family, 0, "the numbering has a gap; the program reads only the files in front of it"});
-  if (sources.empty()) {
+  if (output.files.empty()) {
     err << "jeer unpack: no word-list files (FAMILY.NNN) in " << NativePath(systemDir) << "\n";
     return 1;
   }
-  for (const Diagnostic& note : notes)
-    err << NativePath(JoinPath(systemDir, note.file)) << (note.line ? ":" + std::to_string(note.line) : "")
-        << ": note: " << note.reason << "\n";
-  if (!diagnostics.empty()) {
-    for (const Diagnostic& diagnostic : diagnostics) {
-      Diagnostic shown = diagnostic;
-      shown.file = NativePath(JoinPath(systemDir, diagnostic.file));
-      err << shown.ToString() << "\n";
-    }
-    err << "jeer unpack: " << diagnostics.size() << (diagnostics.size() == 1 ? " problem" : " problems")
-        << "; nothing written\n";
-    return 1;
-  }
-  if (!WriteFilesAtomically(sourceDir, sources, &error)) {
-    err << "jeer unpack: " << error << "\n";
-    return 1;
-  }
-  for (const NamedFile& source : sources) out << "  " << source.name << "\n";
-  out << "jeer unpack: " << sources.size() << (sources.size() == 1 ? " file" : " files") << " written to "
-      << NativePath(sourceDir) << "\n";
-  return 0;
+  return FinishTool("jeer unpack", systemDir, sourceDir, output, out, err);
 }
 
 }  // namespace jeerbox
