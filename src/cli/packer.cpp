@@ -5,7 +5,6 @@
 #include <tuple>
 
 #include "cli/tool_output.h"
-#include "platform/file_system.h"
 #include "text/MSimpleCrypto.h"
 #include "text/wordlist_format.h"
 
@@ -260,28 +259,10 @@ ToolOutput PackOutput(PackResult result, const std::string& systemDir) {
 
 int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ostream& out,
             std::ostream& err) {
-  std::vector<std::string> names;
-  std::string error;
-  if (!ListFiles(sourceDir, &names, &error)) {
-    err << "jeer pack: " << error << "\n";
-    return 1;
-  }
   std::vector<NamedFile> sources;
-  for (const std::string& name : names) {
-    std::string family;
-    int number = 0;
-    if (!ParseSourceName(name, &family, &number)) continue;
-    NamedFile source{name, ""};
-    if (!ReadFileBytes(JoinPath(sourceDir, name), &source.bytes, &error)) {
-      err << "jeer pack: " << error << "\n";
-      return 1;
-    }
-    sources.push_back(std::move(source));
-  }
-  if (sources.empty()) {
-    err << "jeer pack: no word-list sources (FAMILY.NNN.txt) in " << NativePath(sourceDir) << "\n";
+  if (!ReadToolInput("jeer pack", sourceDir, ParseSourceName, "word-list sources (FAMILY.NNN.txt)", &sources,
+                     err))
     return 1;
-  }
   return FinishTool("jeer pack", sourceDir, systemDir, PackOutput(PackSources(sources), systemDir), out, err);
 }
 

@@ -7,6 +7,29 @@ std::string Plural(size_t n, const std::string& thing) {
   return std::to_string(n) + " " + thing + (n == 1 ? "" : "s");
 }
 
+bool ReadToolInput(const std::string& command, const std::string& dir, NameParser parse,
+                   const std::string& what, std::vector<NamedFile>* files, std::ostream& err) {
+  std::vector<std::string> names;
+  std::string error;
+  bool read = ListFiles(dir, &names, &error);
+  for (size_t i = 0; read && i < names.size(); ++i) {
+    std::string family;
+    int number = 0;
+    if (!parse(names[i], &family, &number)) continue;
+    files->push_back({names[i], ""});
+    read = ReadFileBytes(JoinPath(dir, names[i]), &files->back().bytes, &error);
+  }
+  if (!read) {
+    err << command << ": " << error << "\n";
+    return false;
+  }
+  if (files->empty()) {
+    err << command << ": no " << what << " in " << NativePath(dir) << "\n";
+    return false;
+  }
+  return true;
+}
+
 int FinishTool(const std::string& command, const std::string& readDir, const std::string& writeDir,
                const ToolOutput& output, std::ostream& out, std::ostream& err) {
   auto where = [&readDir](const Diagnostic& finding) {

@@ -1,9 +1,10 @@
-// How jeer pack and unpack end: what they found, then the files written all
-// or nothing, and a summary.
+// How jeer pack and unpack start, reading the files of a directory, and how
+// they end: what they found, the files written all or nothing, a summary.
 #pragma once
 
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/tool_files.h"
@@ -13,6 +14,16 @@ namespace jeerbox {
 
 // "1 line", "2 lines".
 std::string Plural(size_t n, const std::string& thing);
+
+// A file name split into family and number; false for a name the tool
+// doesn't take.
+using NameParser = bool (*)(std::string_view name, std::string* family, int* number);
+
+// The files of `dir` whose names `parse` takes, read whole, in name order.
+// False, with the reason on `err`, when the directory or one of the files
+// can't be read or none is taken; `what` names the files for that case.
+bool ReadToolInput(const std::string& command, const std::string& dir, NameParser parse,
+                   const std::string& what, std::vector<NamedFile>* files, std::ostream& err);
 
 struct ToolOutput {
   std::vector<Diagnostic> diagnostics;  // any of them, and nothing is written

@@ -4,7 +4,6 @@
 #include <set>
 
 #include "cli/tool_output.h"
-#include "platform/file_system.h"
 #include "text/MSimpleCrypto.h"
 #include "text/wordlist_format.h"
 
@@ -78,34 +77,24 @@ std::string UnpackFile(const std::string& fileName, std::string_view bytes,
 
 int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::ostream& out,
               std::ostream& err) {
-  std::vector<std::string> names;
-  std::string error;
-  if (!ListFiles(systemDir, &names, &error)) {
-    err << "jeer unpack: " << error << "\n";
+  std::vector<NamedFile> packed;
+  if (!ReadToolInput("jeer unpack", systemDir, ParseNumberedFileName, "word-list files (FAMILY.NNN)", &packed,
+                     err))
     return 1;
-  }
   ToolOutput output;
   std::map<std::string, std::set<int>> families;
-  for (const std::string& name : names) {
+  for (const NamedFile& file : packed) {
     std::string family;
     int number = 0;
-    if (!ParseNumberedFileName(name, &family, &number)) continue;
-    std::string bytes;
-    if (!ReadFileBytes(JoinPath(systemDir, name), &bytes, &error)) {
-      err << "jeer unpack: " << error << "\n";
-      return 1;
-    }
+    ParseNumberedFileName(file.name, &family, &number);
     families[family].insert(number);
-    output.files.push_back({name + ".txt", UnpackFile(name, bytes, &output.diagnostics, &output.notes)});
+    output.files.push_back(
+        {file.name + ".txt", UnpackFile(file.name, file.bytes, &output.diagnostics, &output.notes)});
   }
   for (const auto& [family, numbers] : families)
     if (*numbers.rbegin() != static_cast<int>(numbers.size()))
       output.notes.push_back(
           {family, 0, "the numbering has a gap; the program reads only the files in front of it"});
-  if (output.files.empty()) {
-    err << "jeer unpack: no word-list files (FAMILY.NNN) in " << NativePath(systemDir) << "\n";
-    return 1;
-  }
   return FinishTool("jeer unpack", systemDir, sourceDir, output, out, err);
 }
 
