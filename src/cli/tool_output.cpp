@@ -3,6 +3,7 @@
 #include "platform/file_system.h"
 
 namespace jeerbox {
+
 std::string Plural(size_t n, const std::string& thing) {
   return std::to_string(n) + " " + thing + (n == 1 ? "" : "s");
 }
