@@ -1,5 +1,6 @@
 // jeer check: reads an installed System\ as the program reads it and tells,
 // per family and key, what it holds and what will go wrong when it is used.
+// CheckSystem finds it out; PrintCheckReport shows it.
 #pragma once
 
 #include <ostream>
@@ -29,14 +30,6 @@ struct CheckReport {
   std::vector<KeyReport> keys;
   int ProblemCount() const;
 };
-
-// The program's keys, and the distinct texts a key must offer at least: the
-// composer takes up to three adjectives, none inside another.
-struct ProgramKey {
-  const char* key;
-  int minimum;
-};
-extern const std::vector<ProgramKey> kProgramKeys;
 
 // Checks gAppPath\System through the program's own reader.
 CheckReport CheckSystem();

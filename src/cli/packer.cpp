@@ -4,15 +4,12 @@
 #include <set>
 #include <tuple>
 
+#include "cli/tool_output.h"
 #include "text/MSimpleCrypto.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 namespace {
-
-const std::string& StoredMarker() {
-  static const std::string marker = SimpleCrypt("<XT>");
-  return marker;
-}
 
 // Where each written line came from, to name the source line of a byte.
 struct WrittenLine {
@@ -58,7 +55,7 @@ class SourcePacker {
   void Write(const std::string& bytes, int sourceLine, std::string what) {
     mWritten.push_back({mOut.size(), sourceLine, std::move(what)});
     mOut += bytes;
-    mOut += "\r\n";
+    mOut += kLineEnd;
     ++mSectionPieces;
   }
 
@@ -74,7 +71,7 @@ class SourcePacker {
         mNeedsSeparator = false;
         break;
       case Kind::kMarker:
-        Write(";" + StoredMarker(), line.number, "the marker");
+        Write(MarkerCommentLine(), line.number, "the marker");
         stats->marked = true;
         mNeedsSeparator = false;
         break;
@@ -102,9 +99,9 @@ class SourcePacker {
     // An empty line keeps a data line in front of the head from ending in
     // the CR of the line end when read.
     if (mNeedsSeparator) Write("", line.number, "an empty line");
-    const std::string stored = SimpleCrypt(line.text);
-    mHeads.push_back({line.text, stored, mOut.size() + 1, line.number, duplicate});
-    Write("[" + stored + "]", line.number, "the head of key \"" + line.text + "\"");
+    const std::string head = HeadLine(line.text);
+    mHeads.push_back({line.text, std::string(HeadKey(head)), mOut.size() + 1, line.number, duplicate});
+    Write(head, line.number, "the head of key \"" + line.text + "\"");
     mSectionPieces = 0;
     mSectionLine = line.number;
     mNeedsSeparator = true;
@@ -166,7 +163,7 @@ void CheckNumbering(const std::map<std::string, std::map<int, std::string>>& fam
     for (const auto& [number, name] : files) {
       if (number != expected) {
         diagnostics->push_back({name, 0,
-                                "family " + family + " has no file " + PackedName(family, expected) +
+                                "family " + family + " has no file " + NumberedFileName(family, expected) +
                                     ".txt in front of this one; the program stops reading at the gap"});
         break;
       }
@@ -207,7 +204,7 @@ PackResult PackSources(const std::vector<NamedFile>& sources) {
     PackStats stats;
     std::string bytes = PackSource(sources[i].name, names[i].first, sources[i].bytes, &result.diagnostics,
                                    &keyLines[names[i].first], &stats);
-    result.files.push_back({PackedName(names[i].first, names[i].second), std::move(bytes)});
+    result.files.push_back({NumberedFileName(names[i].first, names[i].second), std::move(bytes)});
     result.stats.push_back(stats);
   }
   for (const auto& [family, keys] : keyLines)
@@ -229,72 +226,44 @@ PackResult PackSources(const std::vector<NamedFile>& sources) {
   return result;
 }
 
-int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ostream& out,
-            std::ostream& err) {
-  std::vector<std::string> names;
-  std::string error;
-  if (!ListFiles(sourceDir, &names, &error)) {
-    err << "jeer pack: " << error << "\n";
-    return 1;
-  }
-  std::vector<NamedFile> sources;
-  for (const std::string& name : names) {
-    std::string family;
-    int number = 0;
-    if (!ParseSourceName(name, &family, &number)) continue;
-    NamedFile source{name, ""};
-    if (!ReadFileBytes(sourceDir + "/" + name, &source.bytes, &error)) {
-      err << "jeer pack: " << error << "\n";
-      return 1;
-    }
-    sources.push_back(std::move(source));
-  }
-  if (sources.empty()) {
-    err << "jeer pack: no word-list sources (FAMILY.NNN.txt) in " << sourceDir << "\n";
-    return 1;
-  }
+namespace {
 
-  PackResult result = PackSources(sources);
-  if (!result.diagnostics.empty()) {
-    for (const Diagnostic& diagnostic : result.diagnostics) {
-      Diagnostic shown = diagnostic;
-      shown.file = sourceDir + "/" + diagnostic.file;
-      err << shown.ToString() << "\n";
-    }
-    err << "jeer pack: " << result.diagnostics.size()
-        << (result.diagnostics.size() == 1 ? " problem" : " problems") << "; nothing written\n";
-    return 1;
-  }
-
-  // A numbered file of a packed family that the sources no longer make
-  // would still be read by the program: it goes.
+// What PackSources made, as pack ends: a line on each file, and the numbered
+// files of the packed families that the sources no longer make. Such a file
+// would still be read by the program: it goes.
+ToolOutput PackOutput(PackResult result, const std::string& systemDir) {
+  ToolOutput output;
+  output.diagnostics = std::move(result.diagnostics);
+  if (!output.diagnostics.empty()) return output;
+  for (const PackStats& stats : result.stats)
+    output.fileNotes.push_back(Plural(stats.keys, "key") + ", " + Plural(stats.lines, "line") +
+                               (stats.marked ? ", marked" : ""));
   std::set<std::string> written;
   for (const NamedFile& file : result.files) written.insert(file.name);
-  std::vector<std::string> stale;
   std::vector<std::string> existing;
+  std::string error;
   if (ListFiles(systemDir, &existing, &error)) {
     for (const std::string& name : existing) {
       std::string family;
       int number = 0;
-      if (ParsePackedName(name, &family, &number) && !written.count(name) &&
+      if (ParseNumberedFileName(name, &family, &number) && !written.count(name) &&
           std::binary_search(result.families.begin(), result.families.end(), family))
-        stale.push_back(name);
+        output.removals.push_back(name);
     }
   }
+  output.files = std::move(result.files);
+  return output;
+}
 
-  if (!WriteFilesAtomically(systemDir, result.files, &error) || !RemoveFiles(systemDir, stale, &error)) {
-    err << "jeer pack: " << error << "\n";
+}  // namespace
+
+int RunPack(const std::string& sourceDir, const std::string& systemDir, std::ostream& out,
+            std::ostream& err) {
+  std::vector<NamedFile> sources;
+  if (!ReadToolInput("jeer pack", sourceDir, ParseSourceName, "word-list sources (FAMILY.NNN.txt)", &sources,
+                     err))
     return 1;
-  }
-  for (size_t i = 0; i < result.files.size(); ++i) {
-    const PackStats& stats = result.stats[i];
-    out << "  " << result.files[i].name << "  " << stats.keys << (stats.keys == 1 ? " key, " : " keys, ")
-        << stats.lines << (stats.lines == 1 ? " line" : " lines") << (stats.marked ? ", marked" : "") << "\n";
-  }
-  for (const std::string& name : stale) out << "  " << name << "  removed: no source has it any more\n";
-  out << "jeer pack: " << result.files.size() << (result.files.size() == 1 ? " file" : " files")
-      << " written to " << systemDir << "\n";
-  return 0;
+  return FinishTool("jeer pack", sourceDir, systemDir, PackOutput(PackSources(sources), systemDir), out, err);
 }
 
 }  // namespace jeerbox

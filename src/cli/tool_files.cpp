@@ -2,104 +2,63 @@
 
 #include <unistd.h>
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
+#include "platform/file_system.h"
+#include "support/MSimpleIO.h"
 
 namespace jeerbox {
-namespace fs = std::filesystem;
-
-bool ListFiles(const std::string& dir, std::vector<std::string>* names, std::string* error) {
-  names->clear();
-  std::error_code ec;
-  fs::directory_iterator it(dir, ec);
-  if (ec) {
-    *error = dir + ": " + ec.message();
-    return false;
-  }
-  for (const fs::directory_entry& entry : it) {
-    std::error_code typeError;
-    if (entry.is_regular_file(typeError)) names->push_back(entry.path().filename().string());
-  }
-  std::sort(names->begin(), names->end());
-  return true;
-}
-
-bool ReadFileBytes(const std::string& path, std::string* bytes, std::string* error) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) {
-    *error = path + ": can't be opened";
-    return false;
-  }
-  bytes->assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-  if (in.bad()) {
-    *error = path + ": read error";
-    return false;
-  }
-  return true;
-}
-
 namespace {
 
-bool WriteOne(const fs::path& path, const std::string& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  out.close();
-  return static_cast<bool>(out);
+// "path: reason", the path as the user writes it.
+std::string Failure(const std::string& path, const std::string& reason) {
+  return NativePath(path) + ": " + reason;
 }
 
 }  // namespace
 
+std::string JoinPath(const std::string& dir, const std::string& name) { return dir + "\\" + name; }
+
+bool ListFiles(const std::string& dir, std::vector<std::string>* names, std::string* error) {
+  std::string reason;
+  if (CurrentFileSystem().ListFiles(dir, names, &reason)) return true;
+  *error = Failure(dir, reason);
+  return false;
+}
+
+bool ReadFileBytes(const std::string& path, std::string* bytes, std::string* error) {
+  if (CurrentFileSystem().ReadFile(path, bytes) == FileStatus::kOk) return true;
+  *error = Failure(path, "can't be opened");
+  return false;
+}
+
 bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& files, std::string* error) {
-  std::error_code ec;
-  fs::create_directories(dir, ec);
-  if (ec) {
-    *error = dir + ": " + ec.message();
+  std::string reason;
+  if (!CurrentFileSystem().MakeDirectories(dir, &reason)) {
+    *error = Failure(dir, reason);
     return false;
   }
+  // Hidden and named for the process, so two runs don't write each other's.
   const std::string suffix = ".jeer-tmp-" + std::to_string(getpid());
-  std::vector<fs::path> temps;
-  for (const NamedFile& file : files) {
-    temps.push_back(fs::path(dir) / ("." + file.name + suffix));
-    if (!WriteOne(temps.back(), file.bytes)) {
-      *error = temps.back().string() + ": can't be written";
-      for (const fs::path& temp : temps) fs::remove(temp, ec);
-      return false;
-    }
-  }
-  for (size_t i = 0; i < files.size(); ++i) {
-    fs::rename(temps[i], fs::path(dir) / files[i].name, ec);
-    if (ec) {
-      *error = (fs::path(dir) / files[i].name).string() + ": " + ec.message();
-      for (size_t j = i; j < temps.size(); ++j) fs::remove(temps[j], ec);
-      return false;
-    }
-  }
-  return true;
+  std::vector<FileReplacement> replacements;
+  replacements.reserve(files.size());
+  for (const NamedFile& file : files)
+    replacements.push_back({JoinPath(dir, file.name), JoinPath(dir, "." + file.name + suffix), &file.bytes});
+  ReplaceFailure failure;
+  if (ReplaceFiles(replacements, &failure)) return true;
+  *error = Failure(failure.path, failure.writing ? "can't be written" : failure.reason);
+  return false;
 }
 
 bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names, std::string* error) {
+  IFileSystem& fs = CurrentFileSystem();
   for (const std::string& name : names) {
-    std::error_code ec;
-    fs::remove(fs::path(dir) / name, ec);
-    if (ec) {
-      *error = (fs::path(dir) / name).string() + ": " + ec.message();
+    const std::string path = JoinPath(dir, name);
+    std::string reason;
+    if (!fs.RemoveFile(path, &reason) && fs.FileExists(path)) {
+      *error = Failure(path, reason);
       return false;
     }
   }
   return true;
-}
-
-std::vector<std::string_view> SplitCrLf(std::string_view bytes) {
-  std::vector<std::string_view> lines;
-  size_t start = 0;
-  while (start < bytes.size()) {
-    size_t end = bytes.find("\r\n", start);
-    if (end == std::string_view::npos) end = bytes.size();
-    lines.push_back(bytes.substr(start, end - start));
-    start = end + 2;
-  }
-  return lines;
 }
 
 }  // namespace jeerbox

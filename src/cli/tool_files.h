@@ -1,9 +1,9 @@
 // Directory listing, whole-file reading and all-or-nothing writing for the
-// word-list tools, on the host's own paths.
+// word-list tools, through the program's file system. Directories are host
+// paths as the user gave them; a name joins its directory with "\".
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace jeerbox {
@@ -12,6 +12,8 @@ struct NamedFile {
   std::string name;  // file name, no directory
   std::string bytes;
 };
+
+std::string JoinPath(const std::string& dir, const std::string& name);
 
 // The names of the regular files in `dir`, sorted. False with a reason when
 // the directory can't be read.
@@ -24,11 +26,8 @@ bool ReadFileBytes(const std::string& path, std::string* bytes, std::string* err
 // renames removes the temporaries and leaves the old files as they were.
 bool WriteFilesAtomically(const std::string& dir, const std::vector<NamedFile>& files, std::string* error);
 
-// Removes dir/name for each name; false with a reason at the first failure.
+// Removes dir\name for each name; false with a reason at the first failure.
+// A file that is gone already counts as removed.
 bool RemoveFiles(const std::string& dir, const std::vector<std::string>& names, std::string* error);
-
-// The lines of a System\ file split at CR LF, as the tools read them: no
-// final empty line behind a last CR LF.
-std::vector<std::string_view> SplitCrLf(std::string_view bytes);
 
 }  // namespace jeerbox

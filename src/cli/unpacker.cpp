@@ -3,13 +3,12 @@
 #include <map>
 #include <set>
 
-#include "cli/tool_files.h"
+#include "cli/tool_output.h"
 #include "text/MSimpleCrypto.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 namespace {
-
-bool IsHead(std::string_view line) { return line.size() >= 2 && line.front() == '[' && line.back() == ']'; }
 
 bool HoldsLineEnd(std::string_view text) { return text.find_first_of("\r\n") != std::string_view::npos; }
 
@@ -17,7 +16,6 @@ bool HoldsLineEnd(std::string_view text) { return text.find_first_of("\r\n") != 
 
 std::string UnpackFile(const std::string& fileName, std::string_view bytes,
                        std::vector<Diagnostic>* diagnostics, std::vector<Diagnostic>* notes) {
-  const std::string marker = SimpleCrypt("<XT>");
   const std::vector<std::string_view> lines = SplitCrLf(bytes);
   std::string source;
   bool inSection = false;
@@ -28,36 +26,50 @@ std::string UnpackFile(const std::string& fileName, std::string_view bytes,
       source += text;
       source += '\n';
     };
-    if (IsHead(line)) {
-      const std::string key = SimpleCrypt(line.substr(1, line.size() - 2));
-      if (HoldsLineEnd(key)) diagnostics->push_back({fileName, number, "a key with a CR or LF in it"});
-      emit("[" + key + "]");
-      inSection = true;
-    } else if (line.empty()) {
-      emit("");
-    } else if (line.find_first_not_of(' ') == std::string_view::npos) {
-      notes->push_back({fileName, number, "a line of blanks, which the reader drops: written empty"});
-      emit("");
-    } else if (line == ";" + marker || (!inSection && line == marker)) {
-      emit(kMarkerDirective);
-    } else if (line.front() == ';') {
-      if (HoldsLineEnd(line)) diagnostics->push_back({fileName, number, "a comment with a CR or LF in it"});
-      emit(line);
-    } else if (line.front() == '[') {
-      diagnostics->push_back({fileName, number, "a line begins with \"[\" but isn't a head"});
-    } else if (!inSection) {
-      notes->push_back({fileName, number, "a data line in front of the first head, never read: left out"});
-    } else if (line == "\r") {
-      notes->push_back({fileName, number, "a lone CR, which the reader drops: left out"});
-    } else {
-      const std::string text = SimpleCrypt(line);
-      const std::string problem = DataLineProblem(text);
-      if (!problem.empty()) diagnostics->push_back({fileName, number, problem});
-      if (i + 1 < lines.size() && !lines[i + 1].empty() && lines[i + 1].front() == '[')
-        notes->push_back({fileName, number,
-                          "a data line right in front of a head, read with a trailing CR: the "
-                          "source holds it without, and pack puts an empty line in between"});
-      emit(DataSourceLine(text));
+    auto note = [&](const char* reason) { notes->push_back({fileName, number, reason}); };
+    const StoredLine kind = ClassifyStoredLine(line, inSection);
+    switch (kind) {
+      case StoredLine::kHead: {
+        const std::string key = SimpleCrypt(HeadKey(line));
+        if (HoldsLineEnd(key)) diagnostics->push_back({fileName, number, "a key with a CR or LF in it"});
+        emit("[" + key + "]");
+        inSection = true;
+        break;
+      }
+      case StoredLine::kEmpty:
+        emit("");
+        break;
+      case StoredLine::kBlanks:
+        note("a line of blanks, which the reader drops: written empty");
+        emit("");
+        break;
+      case StoredLine::kMarker:
+        emit(kMarkerDirective);
+        break;
+      case StoredLine::kComment:
+        if (HoldsLineEnd(line)) diagnostics->push_back({fileName, number, "a comment with a CR or LF in it"});
+        emit(line);
+        break;
+      case StoredLine::kStrayBracket:
+        diagnostics->push_back({fileName, number, "a line begins with \"[\" but isn't a head"});
+        break;
+      case StoredLine::kLoneCr:
+      case StoredLine::kData:
+        if (!inSection) {
+          note("a data line in front of the first head, never read: left out");
+        } else if (kind == StoredLine::kLoneCr) {
+          note("a lone CR, which the reader drops: left out");
+        } else {
+          const std::string text = SimpleCrypt(line);
+          const std::string problem = DataLineProblem(text);
+          if (!problem.empty()) diagnostics->push_back({fileName, number, problem});
+          if (i + 1 < lines.size() && EndsSection(lines[i + 1]))
+            note(
+                "a data line right in front of a head, read with a trailing CR: the source holds it without, "
+                "and pack puts an empty line in between");
+          emit(DataSourceLine(text));
+        }
+        break;
     }
   }
   return source;
@@ -65,53 +77,25 @@ std::string UnpackFile(const std::string& fileName, std::string_view bytes,
 
 int RunUnpack(const std::string& systemDir, const std::string& sourceDir, std::ostream& out,
               std::ostream& err) {
-  std::vector<std::string> names;
-  std::string error;
-  if (!ListFiles(systemDir, &names, &error)) {
-    err << "jeer unpack: " << error << "\n";
+  std::vector<NamedFile> packed;
+  if (!ReadToolInput("jeer unpack", systemDir, ParseNumberedFileName, "word-list files (FAMILY.NNN)", &packed,
+                     err))
     return 1;
-  }
-  std::vector<Diagnostic> diagnostics;
-  std::vector<Diagnostic> notes;
-  std::vector<NamedFile> sources;
+  ToolOutput output;
   std::map<std::string, std::set<int>> families;
-  for (const std::string& name : names) {
+  for (const NamedFile& file : packed) {
     std::string family;
     int number = 0;
-    if (!ParsePackedName(name, &family, &number)) continue;
-    std::string bytes;
-    if (!ReadFileBytes(systemDir + "/" + name, &bytes, &error)) {
-      err << "jeer unpack: " << error << "\n";
-      return 1;
-    }
+    ParseNumberedFileName(file.name, &family, &number);
     families[family].insert(number);
-    sources.push_back({name + ".txt", UnpackFile(name, bytes, &diagnostics, &notes)});
+    output.files.push_back(
+        {file.name + ".txt", UnpackFile(file.name, file.bytes, &output.diagnostics, &output.notes)});
   }
   for (const auto& [family, numbers] : families)
     if (*numbers.rbegin() != static_cast<int>(numbers.size()))
-      notes.push_back(
+      output.notes.push_back(
           {family, 0, "the numbering has a gap; the program reads only the files in front of it"});
-  if (sources.empty()) {
-    err << "jeer unpack: no word-list files (FAMILY.NNN) in " << systemDir << "\n";
-    return 1;
-  }
-  for (const Diagnostic& note : notes)
-    err << systemDir << "/" << note.file << (note.line ? ":" + std::to_string(note.line) : "")
-        << ": note: " << note.reason << "\n";
-  if (!diagnostics.empty()) {
-    for (const Diagnostic& diagnostic : diagnostics) err << systemDir << "/" << diagnostic.ToString() << "\n";
-    err << "jeer unpack: " << diagnostics.size() << (diagnostics.size() == 1 ? " problem" : " problems")
-        << "; nothing written\n";
-    return 1;
-  }
-  if (!WriteFilesAtomically(sourceDir, sources, &error)) {
-    err << "jeer unpack: " << error << "\n";
-    return 1;
-  }
-  for (const NamedFile& source : sources) out << "  " << source.name << "\n";
-  out << "jeer unpack: " << sources.size() << (sources.size() == 1 ? " file" : " files") << " written to "
-      << sourceDir << "\n";
-  return 0;
+  return FinishTool("jeer unpack", systemDir, sourceDir, output, out, err);
 }
 
 }  // namespace jeerbox

@@ -3,7 +3,9 @@
 #include "cli/wordlist_source.h"
 
 #include "cli/escape.h"
+#include "support/text_lines.h"
 #include "text/MSimpleCrypto.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 namespace {
@@ -49,44 +51,20 @@ std::string Diagnostic::ToString() const {
   return file + (line > 0 ? ":" + std::to_string(line) : std::string()) + ": " + reason;
 }
 
-bool ParsePackedName(std::string_view name, std::string* family, int* number) {
-  const size_t dot = name.rfind('.');
-  if (dot == std::string_view::npos || dot == 0 || name.size() - dot != 4) return false;
-  int n = 0;
-  for (char c : name.substr(dot + 1)) {
-    if (c < '0' || c > '9') return false;
-    n = n * 10 + (c - '0');
-  }
-  if (n == 0) return false;
-  *family = name.substr(0, dot);
-  *number = n;
-  return true;
-}
-
 bool ParseSourceName(std::string_view name, std::string* family, int* number) {
   constexpr std::string_view kExtension = ".txt";
   if (name.size() <= kExtension.size() || name.substr(name.size() - kExtension.size()) != kExtension)
     return false;
-  return ParsePackedName(name.substr(0, name.size() - kExtension.size()), family, number);
-}
-
-std::string PackedName(const std::string& family, int number) {
-  std::string digits = "00" + std::to_string(number);
-  return family + "." + digits.substr(digits.size() - 3);
+  return ParseNumberedFileName(name.substr(0, name.size() - kExtension.size()), family, number);
 }
 
 std::vector<SourceLine> ParseSource(const std::string& fileName, std::string_view bytes,
                                     std::vector<Diagnostic>* diagnostics) {
   std::vector<SourceLine> lines;
-  size_t start = 0;
-  for (int number = 1; start < bytes.size(); ++number) {
-    size_t end = bytes.find('\n', start);
-    if (end == std::string_view::npos) end = bytes.size();
-    std::string_view line = bytes.substr(start, end - start);
-    if (end < bytes.size() && !line.empty() && line.back() == '\r') line.remove_suffix(1);
-    start = end + 1;
+  int number = 0;
+  for (std::string_view line : SplitLfLines(bytes)) {
     std::string problem;
-    SourceLine parsed = Classify(line, number, &problem);
+    SourceLine parsed = Classify(line, ++number, &problem);
     if (problem.empty())
       lines.push_back(std::move(parsed));
     else
@@ -107,15 +85,22 @@ std::string DataLineProblem(const std::string& text) {
   if (text.find_first_of("\r\n") != std::string::npos) return "the data line holds a CR or LF";
   const std::string stored = SimpleCrypt(text);
   const std::string first = Quoted(text.substr(0, 1));
-  if (stored.front() == ';')
-    return "a data line can't begin with " + first +
-           ": its stored form would begin with \";\" and be dropped as a comment";
-  if (stored.front() == '[')
+  switch (WhyDropped(stored)) {
+    case DroppedPiece::kComment:
+      return "a data line can't begin with " + first +
+             ": its stored form would begin with \";\" and be dropped as a comment";
+    case DroppedPiece::kBlanks:
+      return "the stored form of " + Quoted(text) + " would be blanks only and be dropped";
+    case DroppedPiece::kLoneCr:
+      return "the stored form would be a lone CR and be dropped";
+    case DroppedPiece::kEmpty:
+    case DroppedPiece::kNone:
+      break;
+  }
+  if (EndsSection(stored))
     return "a data line can't begin with " + first +
            ": its stored form would begin with \"[\" and end the section";
-  if (IsBlanks(stored)) return "the stored form of " + Quoted(text) + " would be blanks only and be dropped";
-  if (stored == "\r") return "the stored form would be a lone CR and be dropped";
-  const size_t crlf = stored.find("\r\n");
+  const size_t crlf = stored.find(kLineEnd);
   if (crlf != std::string::npos)
     return "the stored form would hold CR LF (from " + Quoted(text.substr(crlf, 2)) + " at column " +
            std::to_string(crlf + 1) + ") and fall apart into two lines";
@@ -127,10 +112,10 @@ std::string KeyProblem(const std::string& key, const std::string& family) {
   if (hyphen == std::string::npos) return "key " + Quoted(key) + " has no hyphen, so it names no family";
   if (key.find('~') != std::string::npos)
     return "key " + Quoted(key) + " holds \"~\", which the reader's cache can't keep";
-  if (key.substr(0, hyphen) != family)
-    return "key " + Quoted(key) + " belongs to family " + Quoted(key.substr(0, hyphen)) +
+  if (KeyFamily(key) != family)
+    return "key " + Quoted(key) + " belongs to family " + Quoted(KeyFamily(key)) +
            ", so the program would never look for it in a " + family + " file";
-  if (SimpleCrypt(key).find("\r\n") != std::string::npos)
+  if (SimpleCrypt(key).find(kLineEnd) != std::string::npos)
     return "the stored form of key " + Quoted(key) + " would hold CR LF and break its head";
   return {};
 }

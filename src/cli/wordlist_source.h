@@ -29,12 +29,9 @@ struct Diagnostic {
   std::string ToString() const;
 };
 
-// A source or System\ file name split into family and number: "Misc.001.txt"
-// (source) or "Misc.001" (packed). False for any other name.
+// A source file name split into family and number: "Misc.001.txt" ->
+// "Misc", 1. False for any other name.
 bool ParseSourceName(std::string_view name, std::string* family, int* number);
-bool ParsePackedName(std::string_view name, std::string* family, int* number);
-// "Misc", 1 -> "Misc.001"
-std::string PackedName(const std::string& family, int number);
 
 // The directive line that makes a file marked, and the escape that makes
 // the rest of a line a data line whatever it begins with.
@@ -57,9 +54,5 @@ std::string DataLineProblem(const std::string& text);
 
 // The reason a key can't be a head in a file of `family`, or "".
 std::string KeyProblem(const std::string& key, const std::string& family);
-
-// The most data lines a key may hold over its family, and the most pieces
-// one section may split into.
-constexpr int kMaxLinesPerKey = 32767;
 
 }  // namespace jeerbox

@@ -8,6 +8,7 @@
 #include "text/CTextGenerator.h"
 #include "text/charset.h"
 #include "text/shorthand.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 namespace {
@@ -15,7 +16,7 @@ namespace {
 int AdjectiveCount(int r) {
   if (r <= 3) return 0;
   if (r <= 5) return 2;
-  if (r == 6) return 3;
+  if (r == 6) return kMaxAdjectives;
   return 1;
 }
 
@@ -31,10 +32,10 @@ bool AlreadyUsed(const std::string& adjectives, const std::string& text) {
 std::string FetchAdjectives(CTextGenerator& generator, int count) {
   std::string adjectives;
   for (int i = 0; i < count; ++i) {
-    std::string text = generator.GetText("Misc-Jeerbox-Adjective");
+    std::string text = generator.GetText(kAdjectiveKey);
     for (int tries = 1; AlreadyUsed(adjectives, text); ++tries) {
       if (tries >= kMaxAdjectiveTries) return adjectives;
-      text = generator.GetText("Misc-Jeerbox-Adjective");
+      text = generator.GetText(kAdjectiveKey);
     }
     if (!adjectives.empty()) adjectives += ", ";
     adjectives += text;
@@ -48,17 +49,17 @@ std::string GenerateInsult() {
   CTextGenerator generator;
   generator.Setup(nullptr);
 
-  const std::string whoSays = generator.GetText("Misc-Jeerbox-WhoSays") + " ";
-  const std::string person = generator.GetText("Misc-Jeerbox-Person") + " ";
-  std::string howBig = generator.GetText("Misc-Jeerbox-HowBig") + " ";
+  const std::string whoSays = generator.GetText(kWhoSaysKey) + " ";
+  const std::string person = generator.GetText(kPersonKey) + " ";
+  std::string howBig = generator.GetText(kHowBigKey) + " ";
 
   const int count = AdjectiveCount(RandomNumber(10));
   std::string adjectives = FetchAdjectives(generator, count);
   if (count > 0) adjectives += " ";
 
-  const std::string noun = generator.GetText("Misc-Jeerbox-Noun") + " ";
-  const std::string andMore = generator.GetText("Misc-Jeerbox-AndMore") + " ";
-  const std::string someone = generator.GetText("Misc-Jeerbox-Someone") + " ";
+  const std::string noun = generator.GetText(kNounKey) + " ";
+  const std::string andMore = generator.GetText(kAndMoreKey) + " ";
+  const std::string someone = generator.GetText(kSomeoneKey) + " ";
 
   howBig = FixArticle(howBig, count > 0 ? adjectives : noun);
   std::string insult = howBig + adjectives + noun;
@@ -94,10 +95,10 @@ std::string Capitalise(const std::string& text) {
   return out;
 }
 
-std::string RandomCharacter() { return ShorthandText("General-Character"); }
-std::string RandomInsult() { return ShorthandText("General-Insult"); }
-std::string RandomCurse() { return ShorthandText("General-Curse"); }
-std::string RandomExclaim() { return ShorthandText("General-Exclaim"); }
-std::string RandomAutoDealer() { return ShorthandText("General-AutoDealer"); }
+std::string RandomCharacter() { return ShorthandText(kCharacterKey); }
+std::string RandomInsult() { return ShorthandText(kInsultKey); }
+std::string RandomCurse() { return ShorthandText(kCurseKey); }
+std::string RandomExclaim() { return ShorthandText(kExclaimKey); }
+std::string RandomAutoDealer() { return ShorthandText(kAutoDealerKey); }
 
 }  // namespace jeerbox

@@ -1,6 +1,8 @@
 // File helpers over the platform's file system, and pure path helpers.
 #include "support/MSimpleIO.h"
 
+#include <algorithm>
+
 #include "platform/file_system.h"
 
 namespace jeerbox {
@@ -18,13 +20,33 @@ IFileSystem* SetFileSystem(IFileSystem* fs) {
   return previous;
 }
 
+bool ReplaceFiles(const std::vector<FileReplacement>& files, ReplaceFailure* failure) {
+  IFileSystem& fs = CurrentFileSystem();
+  ReplaceFailure failed;
+  size_t written = 0;
+  while (written < files.size() &&
+         fs.WriteFile(files[written].temp, *files[written].contents, &failed.reason))
+    ++written;
+  size_t renamed = 0;
+  if (written == files.size()) {
+    while (renamed < files.size() && fs.RenameFile(files[renamed].temp, files[renamed].path, &failed.reason))
+      ++renamed;
+    if (renamed == files.size()) return true;
+    failed.path = files[renamed].path;
+  } else {
+    failed.path = files[written].temp;
+    failed.writing = true;
+  }
+  // The one that failed to be written may be there in part.
+  const size_t end = std::min(written + 1, files.size());
+  for (size_t i = renamed; i < end; ++i) fs.RemoveFile(files[i].temp, nullptr);
+  if (failure != nullptr) *failure = std::move(failed);
+  return false;
+}
+
 // Beside the target first, so that a reader never sees half a file.
 bool ReplaceWholeFile(const std::string& path, const std::string& contents) {
-  IFileSystem& fs = CurrentFileSystem();
-  const std::string temp = path + ".new";
-  if (fs.WriteFile(temp, contents, nullptr) && fs.RenameFile(temp, path, nullptr)) return true;
-  fs.RemoveFile(temp, nullptr);
-  return false;
+  return ReplaceFiles({{path, path + ".new", &contents}}, nullptr);
 }
 
 bool FileExists(const std::string& path) { return CurrentFileSystem().FileExists(path); }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -13,6 +14,27 @@ namespace jeerbox {
 // previous one; nullptr restores the host's. The caller keeps ownership.
 IFileSystem& CurrentFileSystem();
 IFileSystem* SetFileSystem(IFileSystem* fs);
+
+// A file to replace as a whole: `contents` go to `temp` first, and `temp`
+// is renamed onto `path`.
+struct FileReplacement {
+  std::string path;
+  std::string temp;
+  const std::string* contents;
+};
+// Where ReplaceFiles stopped: the temporary it couldn't write, or the file
+// it couldn't rename into place, and the file system's reason.
+struct ReplaceFailure {
+  std::string path;
+  bool writing = false;
+  std::string reason;
+};
+
+// All or nothing: writes every temporary, and only when all are written
+// renames each into place. On a failure the temporaries still there are
+// removed; a failed write leaves every old file as it was. `failure` may be
+// null.
+bool ReplaceFiles(const std::vector<FileReplacement>& files, ReplaceFailure* failure);
 
 // Replaces the file as a whole: readers see the old or the new contents,
 // never a mix. False when it can't be written.

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "support/MSimpleIO.h"
+#include "support/text_lines.h"
 
 namespace jeerbox {
 namespace {
@@ -24,17 +25,11 @@ bool SameName(const std::string& a, const std::string& b) {
          });
 }
 
+// A file cut short right behind a CR still ends its last line there.
 std::vector<std::string> SplitLines(const std::string& text) {
-  std::vector<std::string> lines;
-  size_t start = 0;
-  while (start < text.size()) {
-    size_t end = text.find('\n', start);
-    if (end == std::string::npos) end = text.size();
-    std::string line = text.substr(start, end - start);
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    lines.push_back(std::move(line));
-    start = end + 1;
-  }
+  const std::vector<std::string_view> views = SplitLfLines(text);
+  std::vector<std::string> lines(views.begin(), views.end());
+  if (!text.empty() && text.back() == '\r') lines.back().pop_back();
   return lines;
 }
 

@@ -6,17 +6,9 @@
 #include "support/random.h"
 #include "text/CTextUtils.h"
 #include "text/MSimpleCrypto.h"
-#include "text/find_bytes.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
-namespace {
-
-const std::string& ScrambledMarker() {
-  static const std::string marker = SimpleCrypt("<XT>");
-  return marker;
-}
-
-}  // namespace
 
 CTextGenerator::CTextGenerator() { Class_Initialize(); }
 
@@ -59,23 +51,20 @@ LineList CTextGenerator::GetCacheItem(const std::string& requestedId) {
 
 void AppendDataLines(std::string_view sectionText, LineList* lines) { lines->AppendSection(sectionText); }
 
+std::string CTextGenerator::SystemDirectory() { return gAppPath + "\\System"; }
+
 std::string CTextGenerator::BuildTextFileName(const std::string& key, int number) {
-  const size_t hyphen = key.find('-');
-  const std::string prefix = hyphen == std::string::npos ? key : key.substr(0, hyphen);
-  std::string digits = "000" + std::to_string(number);
-  digits.erase(0, digits.size() - 3);
-  return gAppPath + "\\System\\" + prefix + "." + digits;
+  return SystemDirectory() + "\\" + NumberedFileName(KeyFamily(key), number);
 }
 
 const CTextGenerator::Family& CTextGenerator::FamilyOf(const std::string& key) {
-  const std::string fileName = BuildTextFileName(key, 1);
-  const std::string prefix = fileName.substr(0, fileName.size() - 3);
-  auto found = mFamilies.find(prefix);
+  const std::string name = KeyFamily(key);
+  auto found = mFamilies.find(name);
   if (found != mFamilies.end()) return found->second;
-  Family& family = mFamilies[prefix];
+  Family& family = mFamilies[name];
   for (int n = 1; n <= kMaxFileNumber; ++n) {
     auto file = std::make_unique<TextFile>();
-    if (!ReadTextFile(n == 1 ? fileName : BuildTextFileName(key, n), file.get())) break;
+    if (!ReadTextFile(BuildTextFileName(key, n), file.get())) break;
     family.push_back(std::move(file));
   }
   return family;
@@ -89,7 +78,7 @@ bool CTextGenerator::ReadTextFile(const std::string& fileName, TextFile* file) {
   if (status == FileStatus::kNotFound || (status == FileStatus::kError && !fs.FileExists(fileName)))
     return false;
   if (status != FileStatus::kOk) file->bytes.clear();
-  file->allowed = FindBytes(file->bytes, ScrambledMarker()) == std::string::npos || gAllowMarkedText;
+  file->allowed = !HoldsMarker(file->bytes) || gAllowMarkedText;
   return true;
 }
 

@@ -13,14 +13,12 @@
 #include "text/CGame.h"
 #include "text/IItemCacheProvider.h"
 #include "text/LineList.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 
 // What a pick yields when the key's files or lines are missing.
 constexpr const char* kMissingFilesText = "## System files missing - please reinstall ##";
-
-// The highest file number of a family.
-constexpr int kMaxFileNumber = 999;
 
 class CTextGenerator : public IItemCacheProvider<LineList> {
  public:
@@ -39,8 +37,10 @@ class CTextGenerator : public IItemCacheProvider<LineList> {
   // contents the generator owns, so they hold as long as the generator.
   LineList GetCacheItem(const std::string& requestedId) override;
 
-  // gAppPath\System\<prefix>.<nnn>, the prefix being the key up to its first
-  // hyphen. A key without a hyphen is a family of its own name.
+  // gAppPath\System, where the numbered files lie.
+  static std::string SystemDirectory();
+  // gAppPath\System\<family>.<nnn>, the family being the key up to its first
+  // hyphen.
   static std::string BuildTextFileName(const std::string& key, int number);
 
  private:
@@ -65,7 +65,8 @@ class CTextGenerator : public IItemCacheProvider<LineList> {
   std::string mCityName;
   std::string mRatingName;
   std::string mWeaponName;
-  // Declared before the cache: the cached lines point into these files.
+  // By family name; declared before the cache: the cached lines point into
+  // these files.
   std::map<std::string, Family> mFamilies;
   CFileCache<LineList> mCache;
 };

@@ -6,6 +6,7 @@
 #include "text/MSimpleCrypto.h"
 #include "text/find_bytes.h"
 #include "text/shorthand.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 
@@ -26,14 +27,10 @@ std::string CTextUtils::ParseGameTokens(std::string text, const std::string& cit
                                         const std::string& playerName, const std::string& weaponName,
                                         const std::string& ratingName) {
   if (text.find('<') == std::string::npos) return text;
-  const std::pair<const char*, const std::string*> fixed[] = {
-      {"<City>", &cityName},
-      {"<Player>", &playerName},
-      {"<Weapon>", &weaponName},
-      {"<Rating>", &ratingName},
-  };
-  for (const auto& [token, value] : fixed)
-    if (text.find(token) != std::string::npos) text = ReplaceAll(text, token, *value);
+  const std::string* const values[std::size(kGameTokens)] = {&cityName, &playerName, &weaponName,
+                                                             &ratingName};
+  for (size_t i = 0; i < std::size(kGameTokens); ++i)
+    if (text.find(kGameTokens[i]) != std::string::npos) text = ReplaceAll(text, kGameTokens[i], *values[i]);
   // A value inserted here is still subject to the tokens below it.
   for (const ShorthandToken& shorthand : kShorthandTokens)
     if (text.find(shorthand.token) != std::string::npos)
@@ -62,17 +59,11 @@ std::vector<std::string> CTextUtils::ReadSectionNamesFromFile(const std::string&
                                                               bool returnEncrypted) {
   std::vector<std::string> names;
   const std::string text = ReadWholeFile(fileName);
-  size_t start = 0;
-  while (start <= text.size()) {
-    size_t end = text.find("\r\n", start);
-    if (end == std::string::npos) end = text.size();
-    const std::string_view line = std::string_view(text).substr(start, end - start);
-    if (line.size() >= 2 && line.front() == '[' && line.back() == ']') {
-      const std::string_view name = line.substr(1, line.size() - 2);
-      names.push_back(returnEncrypted ? std::string(name) : SimpleCrypt(name));
-    }
-    start = end + 2;
-  }
+  ForEachCrLfPiece(text, [&](std::string_view line) {
+    if (IsHeadLine(line))
+      names.push_back(returnEncrypted ? std::string(HeadKey(line)) : SimpleCrypt(HeadKey(line)));
+    return true;
+  });
   return names;
 }
 

@@ -2,11 +2,16 @@
 // line goes through: named tokens, then brace choices.
 #pragma once
 
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace jeerbox {
+
+// The named tokens a game fills in, in the order of ParseGameTokens's
+// arguments: city, player, weapon, rating.
+inline constexpr const char* kGameTokens[] = {"<City>", "<Player>", "<Weapon>", "<Rating>"};
 
 class CTextUtils {
  public:

@@ -1,17 +1,15 @@
 #include "text/LineList.h"
 
-#include "text/line_split.h"
+#include "text/wordlist_format.h"
 
 namespace jeerbox {
 
 // The hot loop of a sentence: every section of the family passes here once
-// per generator. Most pieces are settled by their first byte.
+// per generator.
 size_t LineList::CountDataLines(std::string_view text, std::vector<Checkpoint>* checkpoints) {
   size_t count = 0;
   ForEachCrLfPiece(text, [&](std::string_view piece) {
-    const char first = piece.empty() ? ';' : piece.front();
-    const bool data = first == ' ' || first == '\r' ? IsDataPiece(piece) : first != ';';
-    if (!data) return true;
+    if (!IsDataPiece(piece)) return true;
     if (count % kCheckpointLines == 0)
       checkpoints->push_back(
           {static_cast<uint32_t>(piece.data() - text.data()), static_cast<uint32_t>(count)});

@@ -12,13 +12,6 @@
 
 namespace jeerbox {
 
-// A piece of a section's split is a data line unless it is empty, a lone
-// CR, made of blanks only, or begins with ";".
-inline bool IsDataPiece(std::string_view piece) {
-  if (piece.empty() || piece.front() == ';' || piece == "\r") return false;
-  return piece.front() != ' ' || piece.find_first_not_of(' ') != std::string_view::npos;
-}
-
 class LineList {
  public:
   // Views point into the section texts, which must outlive the list.

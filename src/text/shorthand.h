@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "text/wordlist_format.h"
+
 namespace jeerbox {
 
 struct ShorthandToken {
@@ -13,9 +15,8 @@ struct ShorthandToken {
 
 // In the order the token pass handles them.
 inline constexpr ShorthandToken kShorthandTokens[] = {
-    {"<RandomChar>", "General-Character"},  {"<Insult>", "General-Insult"},
-    {"<Curse>", "General-Curse"},           {"<Exclaim>", "General-Exclaim"},
-    {"<AutoDealer>", "General-AutoDealer"},
+    {"<RandomChar>", kCharacterKey}, {"<Insult>", kInsultKey},         {"<Curse>", kCurseKey},
+    {"<Exclaim>", kExclaimKey},      {"<AutoDealer>", kAutoDealerKey},
 };
 
 // How deep tokens may fetch tokens, and how many lookups one outermost

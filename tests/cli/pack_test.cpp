@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/unpacker.h"
+#include "helpers/memory_file_system.h"
 #include "helpers/scrambled_writer.h"
 #include "helpers/temp_dir.h"
 #include "wordlist_test_util.h"
@@ -183,6 +184,22 @@ TEST(Unpack, RefusesWhatASourceCannotHold) {
   EXPECT_EQ(diagnostics[0].line, 2);
   EXPECT_EQ(diagnostics[1].line, 3);
   EXPECT_EQ(diagnostics[2].line, 4);
+}
+
+// A file that can't be renamed into place: the one before it is replaced
+// already, but no temporary file stays behind.
+TEST(PackWrite, AFailedRenameLeavesNoTemporaryFile) {
+  MemoryFileSystem files;
+  ScopedFileSystem scoped(&files);
+  files.Write("src\\Misc.001.txt", "[Misc-A]\nx\n");
+  files.Write("src\\Misc.002.txt", "[Misc-B]\ny\n");
+  files.AddUnreadable("sys\\Misc.002");
+  std::ostringstream out, err;
+  EXPECT_EQ(RunPack("src", "sys", out, err), 1);
+  EXPECT_EQ(err.str(), "jeer pack: sys/Misc.002: Permission denied\n");
+  std::vector<std::string> left;
+  for (const auto& [path, bytes] : files.Files()) left.push_back(path);
+  EXPECT_EQ(left, (std::vector<std::string>{"src\\Misc.001.txt", "src\\Misc.002.txt", "sys\\Misc.001"}));
 }
 
 class PackCommand : public ::testing::Test {

@@ -1,4 +1,5 @@
 #include "text/LineList.h"
+#include "text/wordlist_format.h"
 
 #include <gtest/gtest.h>
 
