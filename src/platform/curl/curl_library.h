@@ -21,6 +21,8 @@ namespace jeerbox {
 
 // The functions the program calls, by their own names.
 struct CurlLibrary {
+// A name can't take parentheses here: it is the function's own.
+// NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define JEERBOX_CURL_POINTER(name) decltype(&::name) name = nullptr;
   JEERBOX_CURL_FUNCTIONS(JEERBOX_CURL_POINTER)
 #undef JEERBOX_CURL_POINTER

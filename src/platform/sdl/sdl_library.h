@@ -37,6 +37,8 @@ namespace jeerbox {
 
 // The functions the program calls, by their own names.
 struct SdlLibrary {
+// A name can't take parentheses here: it is the function's own.
+// NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define JEERBOX_SDL_POINTER(name) decltype(&::name) name = nullptr;
   JEERBOX_SDL_CORE(JEERBOX_SDL_POINTER)
   JEERBOX_SDL_MIXER(JEERBOX_SDL_POINTER)
