@@ -52,8 +52,14 @@ foreach(size 32 48 128 256)
           DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps
           RENAME jeerbox.png)
 endforeach()
-install(FILES ${PROJECT_SOURCE_DIR}/docs/jeer.1 ${PROJECT_SOURCE_DIR}/docs/jeerbox.1
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# The manual pages carry the project's version, filled in here.
+foreach(page jeer jeerbox)
+  configure_file(${PROJECT_SOURCE_DIR}/docs/${page}.1.in ${PROJECT_BINARY_DIR}/man/${page}.1 @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/man/${page}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endforeach()
+# Completion of jeer's commands and options, where bash-completion looks.
+install(FILES ${PROJECT_SOURCE_DIR}/data/completion/jeer.bash
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME jeer)
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # --- The Debian package: cpack in the build directory (make package) ---

@@ -11,7 +11,7 @@ packages=(
   clang libclang-rt-14-dev clang-format clang-tidy
   xvfb xauth xdotool xclip strace
   fonts-wine imagemagick librsvg2-bin
-  dpkg-dev desktop-file-utils appstream groff-base
+  dpkg-dev desktop-file-utils appstream groff-base bash-completion
 )
 [ $# -gt 0 ] && packages+=("$@")
 

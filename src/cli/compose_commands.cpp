@@ -8,7 +8,9 @@
 #include "cli/commands.h"
 #include "cli/escape.h"
 #include "compose/MJeerbox.h"
+#include "platform/file_system.h"
 #include "platform/process.h"
+#include "support/MSimpleIO.h"
 #include "support/globals.h"
 #include "support/random.h"
 #include "text/CTextGenerator.h"
@@ -32,10 +34,15 @@ void PrintLine(const std::string& text, bool escape) {
   std::fputc('\n', stdout);
 }
 
+// Without System/ every text is the fixed line, as in the window; the
+// terminal also says where it looked, so the reason isn't a guess.
 void Prepare(const ComposeOptions& options) {
   gAppPath = ResolveRoot(options.root);
   gAllowMarkedText = true;
   if (options.seeded) SeedRandom(options.seed);
+  if (!FileExists(gAppPath + "\\System"))
+    std::fprintf(stderr, "jeer: no System/ in %s, so there are no word lists to read (see --root)\n",
+                 NativePath(gAppPath).c_str());
 }
 
 void AddRootOption(CLI::App* command, ComposeOptions* options) {

@@ -10,10 +10,11 @@
 namespace {
 
 int Run(int argc, char** argv) {
-  CLI::App app{
-      "jeer composes Jeerbox sentences in a terminal and packs, unpacks and checks\n"
-      "the scrambled word-list files in System/.",
-      "jeer"};
+  CLI::App app{"jeer " JEERBOX_VERSION
+               " composes Jeerbox sentences in a terminal and packs, unpacks and checks\n"
+               "the scrambled word-list files in System/.",
+               "jeer"};
+  app.set_version_flag("--version", "jeer " JEERBOX_VERSION);
   app.require_subcommand(1);
   app.fallthrough(false);
   int exitCode = 0;
@@ -25,6 +26,8 @@ int Run(int argc, char** argv) {
   } catch (const CLI::CallForHelp& e) {
     return app.exit(e);
   } catch (const CLI::CallForAllHelp& e) {
+    return app.exit(e);
+  } catch (const CLI::CallForVersion& e) {
     return app.exit(e);
   } catch (const CLI::ParseError& e) {
     std::cerr << "jeer: " << e.what() << " (try: jeer --help)\n";

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdio>
+#include <fstream>
 #include <set>
 #include <sstream>
 
@@ -17,17 +18,21 @@ namespace {
 struct JeerRun {
   int exitCode;
   std::string out;
+  std::string err;
 };
 
 JeerRun Jeer(const std::string& args) {
-  const std::string command = std::string(JEER_PATH) + " " + args + " 2>/dev/null";
+  TempDir scratch;
+  const std::string command = std::string(JEER_PATH) + " " + args + " 2>" + scratch.Path() + "/err";
   FILE* pipe = popen(command.c_str(), "r");
-  JeerRun run{-1, ""};
+  JeerRun run{-1, "", ""};
   std::array<char, 4096> buffer{};
   size_t n;
   while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0) run.out.append(buffer.data(), n);
   const int status = pclose(pipe);
   run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  std::ifstream err(scratch.Path() + "/err");
+  run.err.assign(std::istreambuf_iterator<char>(err), std::istreambuf_iterator<char>());
   return run;
 }
 
@@ -108,11 +113,13 @@ TEST_F(JeerTest, LinesShowsTheStoredListUnexpanded) {
   EXPECT_EQ(Jeer("lines General-Exclaim" + Root()).out, "\n");
 }
 
-TEST_F(JeerTest, ARootWithoutSystemGivesTheFixedLine) {
+TEST_F(JeerTest, ARootWithoutSystemGivesTheFixedLineAndSaysWhereItLooked) {
   TempDir empty;
   const JeerRun run = Jeer("pick Misc-Jeerbox-Noun --root " + empty.Path());
   EXPECT_EQ(run.exitCode, 0);
   EXPECT_EQ(run.out, std::string(kMissingFilesText) + "\n");
+  EXPECT_NE(run.err.find("no System/ in " + empty.Path()), std::string::npos) << run.err;
+  EXPECT_EQ(Jeer("say" + Root()).err, "") << "no hint where the word lists are";
 }
 
 TEST_F(JeerTest, UsageErrorsExitTwo) {

@@ -37,9 +37,10 @@ done
 grep -q '^\./usr/lib/jeerbox/Media/.*\.\(mp3\|wav\)$' "$scratch/files" || fail "package has no sounds"
 has ./usr/share/applications/jeerbox.desktop
 has ./usr/share/metainfo/org.example.Jeerbox.metainfo.xml
+has ./usr/share/bash-completion/completions/jeer
 for size in 32 48 128 256; do has "./usr/share/icons/hicolor/${size}x${size}/apps/jeerbox.png"; done
 # Only the program's own files, and all under /usr.
-stray=$(grep -v -e '^\./$' -e '^\./usr/\(\(lib\|share\)/\)\?$' -e '^\./usr/\(bin\|lib/jeerbox\|share/\(applications\|metainfo\|icons\|man\|doc\)\)\(/\|$\)' \
+stray=$(grep -v -e '^\./$' -e '^\./usr/\(\(lib\|share\)/\)\?$' -e '^\./usr/\(bin\|lib/jeerbox\|share/\(applications\|metainfo\|icons\|man\|doc\|bash-completion\(/completions\)\?\)\)\(/\|$\)' \
   "$scratch/files")
 stray+=$(grep -e '\.a$' -e '\.h$' -e '/include/' -e '_test' "$scratch/files")
 [ -z "$stray" ] || fail "package holds files it should not: $stray"

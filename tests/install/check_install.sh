@@ -65,13 +65,29 @@ for size in 32 48 128 256; do
   want="0 0 $((size / 256)) $((size % 256)) 0 0 $((size / 256)) $((size % 256))"
   [ "$dims" = "$want" ] || fail "$icon is not a ${size}x${size} PNG ($dims)"
 done
+version=$("$prefix/bin/jeer" --version)
 for page in jeer jeerbox; do
   expect "man page $page.1 installed" test -s "$share/man/man1/$page.1"
+  grep -q "\"Jeerbox ${version#jeer }\"" "$share/man/man1/$page.1" || fail "$page.1 doesn't carry $version"
   if command -v groff >/dev/null; then
     warnings=$(groff -man -ww -z "$share/man/man1/$page.1" 2>&1)
     [ -z "$warnings" ] || fail "$page.1 has roff warnings: $warnings"
   fi
 done
+
+# The completion, as bash-completion loads it: "jeer p<Tab>" and a key.
+completion=$share/bash-completion/completions/jeer
+complete_words() {
+  bash -c 'source /usr/share/bash-completion/bash_completion; source "$1"; shift
+    COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); COMP_LINE="$*"; COMP_POINT=${#COMP_LINE}
+    _jeer; echo "${COMPREPLY[*]}"' _ "$completion" "$@"
+}
+if [ -r /usr/share/bash-completion/bash_completion ]; then
+  [ "$(complete_words jeer p)" = "pick pack" ] || fail "completion of 'jeer p': '$(complete_words jeer p)'"
+  [ "$(complete_words jeer lines General-Cu)" = "General-Curse" ] || fail "no key completion"
+else
+  expect "completion installed" test -s "$completion"
+fi
 
 if command -v desktop-file-validate >/dev/null; then
   expect "desktop-file-validate" desktop-file-validate "$desktop"
