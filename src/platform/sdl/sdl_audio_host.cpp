@@ -11,9 +11,12 @@ constexpr int kChunkSize = 2048;
 // silent anyway.
 unsigned CountDevices() {
   const SdlLibrary* sdl = SdlCore();
-  if (sdl == nullptr || sdl->SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return 0;
-  const int count = sdl->SDL_GetNumAudioDevices(0);
+  if (sdl == nullptr) return 0;
+  const int count = sdl->SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 ? sdl->SDL_GetNumAudioDevices(0) : 0;
   sdl->SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  // SDL keeps per-thread data (its error text) that nothing frees on a
+  // thread it did not start.
+  sdl->SDL_TLSCleanup();
   if (count == 0) UnloadSdlCore();
   return count < 0 ? 1u : static_cast<unsigned>(count);
 }
@@ -49,7 +52,9 @@ void SdlAudioHost::BeginOpen(int rate) {
   std::shared_future<unsigned> count = mCount;
   mOpen = std::async(std::launch::async, [count, rate] {
             count.wait();
-            return OpenMixer(rate);
+            const SdlLibrary* mixer = OpenMixer(rate);
+            if (const SdlLibrary* sdl = SdlCore()) sdl->SDL_TLSCleanup();
+            return mixer;
           }).share();
 }
 

@@ -8,7 +8,8 @@ namespace jeerbox {
 namespace {
 
 // One table for both libraries, filled under a lock by whichever thread
-// asks first. The libraries stay loaded to the end of the process.
+// asks first. SDL itself is let go when it finds no device; otherwise both
+// stay loaded to the end of the process.
 struct Loader {
   std::mutex lock;
   SdlLibrary library;

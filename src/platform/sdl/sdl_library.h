@@ -13,7 +13,8 @@ namespace jeerbox {
   X(SDL_InitSubSystem)      \
   X(SDL_QuitSubSystem)      \
   X(SDL_GetNumAudioDevices) \
-  X(SDL_RWFromFile)
+  X(SDL_RWFromFile)         \
+  X(SDL_TLSCleanup)
 
 #define JEERBOX_SDL_MIXER(X) \
   X(Mix_Init)                \
