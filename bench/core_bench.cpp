@@ -65,7 +65,7 @@ void BM_GenerateInsultInMemory(benchmark::State& state) {
     for (int n = 1; n <= kMaxFileNumber; ++n) {
       const std::string path = CTextGenerator::BuildTextFileName(key, n);
       std::string bytes;
-      if (CurrentFileSystem().ReadFile(path, &bytes) != FileStatus::kOk) break;
+      if (CurrentFileSystem().ReadFile(path, &bytes, kMaxWordListBytes) != FileStatus::kOk) break;
       memory.Write(path, bytes);
     }
   ScopedFileSystem scoped(&memory);

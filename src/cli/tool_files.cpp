@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "platform/file_system.h"
+
 namespace jeerbox {
 namespace fs = std::filesystem;
 
@@ -25,18 +27,21 @@ bool ListFiles(const std::string& dir, std::vector<std::string>* names, std::str
   return true;
 }
 
+// Through the host's guarded read, as the program reads: a pipe never
+// blocks, and a file too large for a word list is refused, not allocated.
 bool ReadFileBytes(const std::string& path, std::string* bytes, std::string* error) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) {
-    *error = path + ": can't be opened";
-    return false;
+  switch (HostFileSystem().ReadFile(path, bytes, kMaxWordListBytes)) {
+    case FileStatus::kOk:
+      return true;
+    case FileStatus::kNotFound:
+      *error = path + ": can't be opened";
+      return false;
+    case FileStatus::kError:
+      break;
   }
-  bytes->assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-  if (in.bad()) {
-    *error = path + ": read error";
-    return false;
-  }
-  return true;
+  *error = path + ": can't be read (not a readable file of at most " +
+           std::to_string(kMaxWordListBytes >> 20) + " MB)";
+  return false;
 }
 
 namespace {

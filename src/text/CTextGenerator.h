@@ -57,8 +57,8 @@ class CTextGenerator : public IItemCacheProvider<LineList> {
   // The key's family: its files from number 1 up to the first missing one,
   // each read once per generator however many keys ask for it.
   const Family& FamilyOf(const std::string& key);
-  // Reads the file; false when it doesn't exist.
-  static bool ReadTextFile(const std::string& fileName, TextFile* file);
+  // Reads the file, up to `maxBytes`; false when it doesn't exist.
+  static bool ReadTextFile(const std::string& fileName, size_t maxBytes, TextFile* file);
   static bool IsFileAllowed(const TextFile& file);
 
   std::string mPlayerName;
