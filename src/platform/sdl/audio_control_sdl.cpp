@@ -22,6 +22,14 @@ bool StartSdlAudio() {
   return SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
 }
 
+// SDL_mixer is handed the file's bytes, never its name: it would open a
+// named pipe and wait, or take a file of gigabytes. What the guarded read
+// refuses is a sound that can't be loaded.
+SDL_RWops* ReadMedia(const std::string& fileName, std::string* bytes) {
+  if (HostFileSystem().ReadFile(fileName, bytes, kMaxMediaBytes) != FileStatus::kOk) return nullptr;
+  return SDL_RWFromConstMem(bytes->data(), static_cast<int>(bytes->size()));
+}
+
 }  // namespace
 
 void PanVolumes(int32_t pan, uint8_t* left, uint8_t* right) {
@@ -55,10 +63,12 @@ bool SdlAudioControl::ResetMixer() {
 }
 
 bool SdlAudioControl::CloseMusic() {
-  if (mMusic == nullptr) return true;
-  Mix_HaltMusic();
-  Mix_FreeMusic(mMusic);
-  mMusic = nullptr;
+  if (mMusic != nullptr) {
+    Mix_HaltMusic();
+    Mix_FreeMusic(mMusic);
+    mMusic = nullptr;
+  }
+  std::string().swap(mMusicBytes);
   return true;
 }
 
@@ -75,7 +85,9 @@ bool SdlAudioControl::CloseMixer() {
 bool SdlAudioControl::LoadMusic(const std::string& fileName) {
   if (!mOpen) return false;
   CloseMusic();
-  mMusic = Mix_LoadMUS(NativePath(fileName).c_str());
+  SDL_RWops* source = ReadMedia(fileName, &mMusicBytes);
+  if (source != nullptr) mMusic = Mix_LoadMUS_RW(source, 1);
+  if (mMusic == nullptr) std::string().swap(mMusicBytes);
   return mMusic != nullptr;
 }
 
@@ -127,7 +139,9 @@ bool SdlAudioControl::SetChannelPan(int32_t pan) {
 bool SdlAudioControl::LoadChannel(const std::string& fileName) {
   const int index = SelectedMixerChannel();
   if (index < 0) return false;
-  Mix_Chunk* chunk = Mix_LoadWAV(NativePath(fileName).c_str());
+  std::string bytes;
+  SDL_RWops* source = ReadMedia(fileName, &bytes);
+  Mix_Chunk* chunk = source == nullptr ? nullptr : Mix_LoadWAV_RW(source, 1);
   if (chunk == nullptr) return false;
   FreeChunk(index);
   mChunks[static_cast<size_t>(index)] = chunk;
