@@ -7,6 +7,7 @@
 #include "support/random.h"
 #include "text/CTextGenerator.h"
 #include "text/charset.h"
+#include "text/find_bytes.h"
 #include "text/shorthand.h"
 
 namespace jeerbox {
@@ -20,9 +21,11 @@ int AdjectiveCount(int r) {
 }
 
 // A text is refused when it occurs anywhere in the list so far. An empty
-// list holds nothing, not even the empty text.
+// list holds nothing, not even the empty text. The search is linear: a
+// list made of near matches would make a plain find quadratic, and the
+// composer may ask 64 times.
 bool AlreadyUsed(const std::string& adjectives, const std::string& text) {
-  return !adjectives.empty() && adjectives.find(text) != std::string::npos;
+  return !adjectives.empty() && FindBytes(adjectives, text) != std::string_view::npos;
 }
 
 // When the list can't supply a new text (too few lines, or the files are

@@ -41,7 +41,7 @@ std::string CTextGenerator::PickText(const std::string& key) {
   Reseed();
   const std::string_view line = lines[static_cast<size_t>(RandomIndex(static_cast<int>(lines.size())))];
   if (line.empty()) return kMissingFilesText;
-  std::string text = SimpleCrypt(line);
+  std::string text = SimpleCrypt(line.substr(0, kMaxTextLength));
   text = CTextUtils::ParseGameTokens(std::move(text), mCityName, mPlayerName, mWeaponName, mRatingName);
   text = CTextUtils::ParseInlineTokens(std::move(text));
   return Trim(text);

@@ -13,6 +13,7 @@
 #include "text/CGame.h"
 #include "text/IItemCacheProvider.h"
 #include "text/LineList.h"
+#include "text/shorthand.h"
 
 namespace jeerbox {
 
@@ -61,6 +62,9 @@ class CTextGenerator : public IItemCacheProvider<LineList> {
   static bool ReadTextFile(const std::string& fileName, size_t maxBytes, TextFile* file);
   static bool IsFileAllowed(const TextFile& file);
 
+  // First, so that it ends last: the lookups of this generator's picks, and
+  // the work they may spend (text/shorthand.h).
+  ExpansionRequest mRequest;
   std::string mPlayerName;
   std::string mCityName;
   std::string mRatingName;
