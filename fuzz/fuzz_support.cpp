@@ -1,5 +1,8 @@
 #include "fuzz_support.h"
 
+#include <cstdio>
+#include <cstdlib>
+
 #include "support/globals.h"
 #include "support/random.h"
 
@@ -30,6 +33,29 @@ std::vector<std::string> SplitInput(const uint8_t* data, size_t size, size_t par
   }
   out.push_back(input.substr(start));
   return out;
+}
+
+namespace {
+
+std::chrono::milliseconds SlowLimit() {
+  static const std::chrono::milliseconds limit = [] {
+    const char* text = std::getenv("JEERBOX_FUZZ_SLOW_MS");
+    return std::chrono::milliseconds(text ? std::atoll(text) : 250);
+  }();
+  return limit;
+}
+
+}  // namespace
+
+SlowInputLimit::SlowInputLimit() : mStart(std::chrono::steady_clock::now()) {}
+
+SlowInputLimit::~SlowInputLimit() {
+  const auto spent = std::chrono::steady_clock::now() - mStart;
+  if (SlowLimit().count() <= 0 || spent <= SlowLimit()) return;
+  std::fprintf(stderr, "slow input: %lld ms, the limit is %lld ms\n",
+               static_cast<long long>(std::chrono::duration_cast<std::chrono::milliseconds>(spent).count()),
+               static_cast<long long>(SlowLimit().count()));
+  std::abort();
 }
 
 }  // namespace jeerbox::fuzz

@@ -2,6 +2,7 @@
 // reproducible random source, set up once per process.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -17,5 +18,20 @@ MemoryFileSystem& Files();
 
 // Splits the input at a separator line into up to `parts` pieces.
 std::vector<std::string> SplitInput(const uint8_t* data, size_t size, size_t parts);
+
+// Fails the input (abort, so libFuzzer keeps it) when the work in its scope
+// takes longer than JEERBOX_FUZZ_SLOW_MS milliseconds (default 250): the
+// bound of one sentence, 50 ms in a release build, with room for the
+// sanitizers.
+class SlowInputLimit {
+ public:
+  SlowInputLimit();
+  ~SlowInputLimit();
+  SlowInputLimit(const SlowInputLimit&) = delete;
+  SlowInputLimit& operator=(const SlowInputLimit&) = delete;
+
+ private:
+  std::chrono::steady_clock::time_point mStart;
+};
 
 }  // namespace jeerbox::fuzz
