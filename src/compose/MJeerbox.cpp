@@ -45,9 +45,7 @@ std::string FetchAdjectives(CTextGenerator& generator, int count) {
   return adjectives;
 }
 
-}  // namespace
-
-std::string GenerateInsult() {
+std::string ComposeSentence() {
   CTextGenerator generator;
   generator.Setup(nullptr);
 
@@ -72,6 +70,16 @@ std::string GenerateInsult() {
   if (shape <= 4) return "You " + noun;
   if (shape <= 16) return "You " + insult;
   return whoSays + "said " + person + Trim(insult) + "!!";
+}
+
+}  // namespace
+
+// Held to the bound of one pick: a sentence of crafted lists would otherwise
+// be ten picks long, and the window would take its time laying it out.
+std::string GenerateInsult() {
+  std::string sentence = ComposeSentence();
+  if (sentence.size() > kMaxTextLength) sentence.resize(kMaxTextLength);
+  return sentence;
 }
 
 std::string FixArticle(const std::string& phrase, const std::string& nextWords) {
