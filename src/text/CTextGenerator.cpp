@@ -41,6 +41,8 @@ std::string CTextGenerator::PickText(const std::string& key) {
   Reseed();
   const std::string_view line = lines[static_cast<size_t>(RandomIndex(static_cast<int>(lines.size())))];
   if (line.empty()) return kMissingFilesText;
+  // The passes never keep more than this of a line: unscrambling more of a
+  // long one would only cost.
   std::string text = SimpleCrypt(line.substr(0, kMaxTextLength));
   text = CTextUtils::ParseGameTokens(std::move(text), mCityName, mPlayerName, mWeaponName, mRatingName);
   text = CTextUtils::ParseInlineTokens(std::move(text));

@@ -13,19 +13,6 @@ namespace jeerbox {
 
 namespace {
 
-// A text the passes work on: its first kMaxTextLength characters.
-void Cut(std::string* text) {
-  if (text->size() > kMaxTextLength) text->resize(kMaxTextLength);
-}
-
-// Appends `part` to `out` as far as the length bound allows; false once the
-// bound is reached.
-bool AppendBounded(std::string* out, std::string_view part) {
-  const size_t room = kMaxTextLength - std::min(out->size(), kMaxTextLength);
-  out->append(part.substr(0, room));
-  return part.size() < room;
-}
-
 // One replacement of the token pass, counted as work: the text is scanned
 // and the result built.
 void ReplaceToken(std::string* text, std::string_view token, std::string_view value) {
@@ -38,7 +25,8 @@ void ReplaceToken(std::string* text, std::string_view token, std::string_view va
 // time linear in the text however long the group: an occurrence ends at a
 // "}" and holds no other, so only a "}" that lies at least the group's
 // length behind the one before it can end one, and the spans compared
-// never overlap. Nothing in front of `open` holds a "{".
+// never overlap. Nothing in front of `open` holds a "{". The result is
+// shorter than the text: an option is shorter than its group.
 std::string ReplaceGroup(const std::string& text, size_t open, size_t close, std::string_view option) {
   const std::string_view whole = std::string_view(text).substr(open, close - open + 1);
   std::string out = text.substr(0, open);
@@ -49,12 +37,10 @@ std::string ReplaceGroup(const std::string& text, size_t open, size_t close, std
     const bool clear = end == close || previous < begin;
     previous = end;
     if (!clear || text.compare(begin, whole.size(), whole) != 0) continue;
-    if (!AppendBounded(&out, std::string_view(text).substr(copied, begin - copied)) ||
-        !AppendBounded(&out, option))
-      return out;
+    out.append(text, copied, begin - copied).append(option);
     copied = end + 1;
   }
-  AppendBounded(&out, std::string_view(text).substr(copied));
+  out.append(text, copied);
   return out;
 }
 
@@ -75,13 +61,12 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
   return out;
 }
 
-// The text, its tokens' values and every result are held to kMaxTextLength;
-// each scan and replacement is counted against the request's work.
+// Every replacement is held to kMaxTextLength, and each scan and
+// replacement is counted against the request's work.
 std::string CTextUtils::ParseGameTokens(std::string text, const std::string& cityName,
                                         const std::string& playerName, const std::string& weaponName,
                                         const std::string& ratingName) {
   const ExpansionRequest request;
-  Cut(&text);
   SpendWork(text.size());
   if (text.find('<') == std::string::npos) return text;
   const std::pair<const char*, const std::string*> fixed[] = {
@@ -142,7 +127,6 @@ std::vector<std::string> CTextUtils::ReadSectionNamesFromFile(const std::string&
 // Passes stop at 1000, or when the request's work is spent.
 std::string CTextUtils::ParseInlineTokens(std::string text) {
   const ExpansionRequest request;
-  Cut(&text);
   for (int passes = 0; passes < 1000 && HasWorkLeft() && text.find('{') != std::string::npos; ++passes) {
     SpendWork(2 * text.size());
     if (!ParseInlineToken(&text)) break;

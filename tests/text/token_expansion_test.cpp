@@ -51,28 +51,45 @@ TEST_F(TokenTest, AMissingFamilyBringsTheFixedText) {
   EXPECT_EQ(Game("Oh <Exclaim>"), std::string("Oh ") + kMissingFilesText);
 }
 
-// Lists written to explode: tokens that fetch themselves, lines and groups
-// past every bound. A pick ends with a bounded text, and all its lookups
-// read the family once.
+// Lists written to explode: tokens that fetch themselves, replacements and
+// lines past the length bound. A pick ends with a bounded text, its choices
+// resolved within the work it may spend, and all its lookups read the
+// family once.
 TEST_F(TokenTest, ExpansionStaysWithinItsBounds) {
-  std::string groups;
-  for (int i = 0; i < 4000; ++i) groups += "{a" + std::to_string(i) + "/b}";
+  std::string many;
+  for (int i = 0; i < 1000; ++i) many += "<Insult>";
   const struct {
     const char* name;
-    std::string insult;
+    std::string line;    // the pick's, a General-Curse line
+    std::string insult;  // what <Insult> fetches
+    int reads;           // of General.001: the pick's, and its lookups'
   } rows[] = {
-      {"self-fetching", "<Insult> <Insult> <Curse>"},
-      {"exploding", "<Insult><Curse><Insult>" + groups},
-      {"long line", "<Curse>" + std::string(40000, 'x') + "{z}"},
+      {"self-fetching", "<Insult>", "<Insult> <Insult> <Curse>", 2},
+      {"a thousand long values", "{a/b}" + many, std::string(32000, 'x'), 2},
+      {"a long line", std::string(40000, 'x') + "{z}", "", 1},
   };
   for (const auto& row : rows) {
-    WriteLists("General.001", {{"General-Insult", {row.insult}}, {"General-Curse", {"<Insult><Curse>"}}});
+    WriteLists("General.001", {{"General-Curse", {row.line}}, {"General-Insult", {row.insult}}});
     fs.ClearLog();
-    const std::string text = CTextGenerator().GetText("General-Insult");
-    EXPECT_EQ(text.find('<'), std::string::npos) << row.name;
+    const std::string text = CTextGenerator().GetText("General-Curse");
+    EXPECT_EQ(text.find_first_of("<{"), std::string::npos) << row.name;
     EXPECT_LE(text.size(), kMaxTextLength) << row.name;
-    EXPECT_EQ(fs.Reads(SystemFile("General.001")), 2) << row.name;  // the pick's, and its lookups'
+    EXPECT_EQ(fs.Reads(SystemFile("General.001")), row.reads) << row.name;
   }
+}
+
+TEST_F(TokenTest, TokensNestAndFetchNoFurtherThanTheirBounds) {
+  WriteLists("General.001", {{"General-Insult", {"a<Insult>"}}});
+  EXPECT_EQ(Game("<Insult>"), std::string(kMaxTokenDepth, 'a'));
+  const std::string all = "<RandomChar><Insult><Curse><Exclaim><AutoDealer>";
+  WriteLists("General.001", {{"General-Character", {all}},
+                             {"General-Insult", {all}},
+                             {"General-Curse", {all}},
+                             {"General-Exclaim", {all}},
+                             {"General-AutoDealer", {all}}});
+  const int before = random.Draws();
+  Game("<Insult>");
+  EXPECT_EQ(random.Draws() - before, kMaxTokenLookups);  // one pick, one draw, per lookup
 }
 
 TEST_F(TokenTest, SpentWorkLeavesTheRestOfTheChoices) {
