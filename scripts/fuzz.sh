@@ -2,9 +2,9 @@
 # Runs one fuzz target for a while: first over its checked-in corpus, then
 # fuzzing on a scratch copy, so the repository's corpus never changes by
 # itself. Fails on a crash, a leak, an input slower than the bound of one
-# sentence allows (250 ms here: 50 ms in a release build, with room for the
-# sanitizers; libFuzzer's own limit of 1 s stays as the guard against a
-# hang), or more than 256 MB. An input that fails is kept in
+# sentence allows (250 ms of CPU here: 50 ms in a release build, with room
+# for the sanitizers; libFuzzer's own limit of 1 s stays as the guard
+# against a hang), or more than 256 MB. An input that fails is kept in
 # fuzz/failures/TARGET/ beside the corpus, with the command that replays it;
 # once its fault is fixed it moves into the corpus.
 # Usage: fuzz.sh TARGET CORPUS_DIR SECONDS
