@@ -33,9 +33,9 @@ grep -E "stat::number_of_executed_units|ERROR|SUMMARY|slow input|Test unit writt
 if [ $status -ne 0 ]; then
   echo "$(basename "$target") failed:"
   tail -n 40 log
-  mkdir -p "$failures"
   for input in "$scratch"/failed-*; do
     [ -e "$input" ] || continue
+    mkdir -p "$failures"
     kept="$failures/$(basename "$input" | sed 's/^failed-//')"
     cp "$input" "$kept"
     replay="JEERBOX_FUZZ_SLOW_MS=$JEERBOX_FUZZ_SLOW_MS $target ${flags[*]:0:2} $kept"
