@@ -25,8 +25,9 @@ inline constexpr ShorthandToken kShorthandTokens[] = {
 constexpr int kMaxTokenDepth = 4;
 constexpr int kMaxTokenLookups = 64;
 
-// The longest text the passes work on or build: a longer line is cut here,
-// and so is a replacement that would make the text longer.
+// The longest text a pick works on or yields: a longer line is cut here when
+// it is picked, and so is a replacement that would make a text longer. A
+// brace pass only ever shortens a text.
 constexpr size_t kMaxTextLength = 32767;
 
 // The work one request may spend on its tokens and choices, in bytes of
