@@ -63,7 +63,87 @@ void Write(const fs::path& path, const std::string& bytes) {
   }
 }
 
+const char* const kMiscKeys[] = {"Misc-Jeerbox-WhoSays",   "Misc-Jeerbox-Person", "Misc-Jeerbox-HowBig",
+                                 "Misc-Jeerbox-Adjective", "Misc-Jeerbox-Noun",   "Misc-Jeerbox-AndMore",
+                                 "Misc-Jeerbox-Someone"};
+const char* const kGeneralKeys[] = {"General-Character", "General-Insult", "General-Curse", "General-Exclaim",
+                                    "General-AutoDealer"};
+
+std::string Head(const std::string& key) { return "\r\n[" + SimpleCrypt(key) + "]\r\n"; }
+
+// Every key of both families with the same lines.
+void WriteBothFamilies(const fs::path& system, const std::vector<std::string>& lines) {
+  std::string misc = ";crafted\r\n", general = ";crafted\r\n";
+  for (const char* key : kMiscKeys) {
+    misc += Head(key);
+    for (const std::string& line : lines) misc += SimpleCrypt(line) + "\r\n";
+  }
+  for (const char* key : kGeneralKeys) general += Head(key) + SimpleCrypt(lines.front()) + "\r\n";
+  Write(system / "Misc.001", misc);
+  Write(system / "General.001", general);
+}
+
 }  // namespace
+
+const char* const kCraftedShapes[7] = {"tokens", "slashes", "closes", "retries", "floods", "files", "mixed"};
+
+size_t WriteCraftedLists(const std::string& root, const std::string& shape) {
+  const fs::path system = fs::path(root) / "System";
+  fs::create_directories(system);
+  const std::string tokens = "<RandomChar><Insult><Curse><Exclaim><AutoDealer>";
+  if (shape == "tokens") {
+    std::string line = tokens;
+    for (int i = 0; line.size() < 32000; ++i)
+      line += " {a" + std::to_string(i) + "/b" + std::to_string(i) + "/}";
+    WriteBothFamilies(system, {line, line + "!"});
+  } else if (shape == "slashes") {
+    std::string line = tokens + "{" + std::string(30000, '/') + "}";
+    for (int i = 0; i < 300; ++i) line += "{a/b}";
+    WriteBothFamilies(system, {line});
+  } else if (shape == "closes") {
+    std::string line = tokens + std::string(20000, '}');
+    while (line.size() < 32700) line += "{a/b}";
+    WriteBothFamilies(system, {line});
+  } else if (shape == "retries") {
+    std::string misc = ";crafted\r\n";
+    for (const char* key : kMiscKeys)
+      misc += Head(key) +
+              (std::string(key) == "Misc-Jeerbox-Adjective"
+                   ? SimpleCrypt(std::string(32000, 'a') + "b") + "\r\n" +
+                         SimpleCrypt(std::string(16000, 'a') + "b")
+                   : SimpleCrypt("plain")) +
+              "\r\n";
+    Write(system / "Misc.001", misc);
+  } else if (shape == "floods") {
+    const std::string anchor = SimpleCrypt("M");  // the first byte of every Misc key, stored
+    std::string misc = ";" + std::string(900000, anchor[0]) + "\r\n";
+    std::string comments;
+    for (int i = 0; i < 5000; ++i) comments += ";\r\n";
+    for (const char* key : kMiscKeys)
+      misc += Head(key) + SimpleCrypt("x") + "\r\n" + comments + SimpleCrypt("y") + "\r\n";
+    Write(system / "Misc.001", misc);
+  } else if (shape == "files") {
+    std::string line = tokens;
+    for (int i = 0; line.size() < 400; ++i) line += " {a" + std::to_string(i) + "/b}";
+    for (int n = 1; n <= 999; ++n) {
+      Write(system / FamilyFileName("Misc", n), Head(kMiscKeys[n % 7]) + SimpleCrypt(line) + "\r\n");
+      Write(system / FamilyFileName("General", n), Head(kGeneralKeys[n % 5]) + SimpleCrypt(line) + "\r\n");
+    }
+  }
+  if (shape == "mixed") {
+    std::string line = tokens;
+    for (int i = 0; line.size() < 30000; ++i) line += " {a" + std::to_string(i) + "/b}";
+    std::string misc = ";" + std::string(560000, SimpleCrypt("M")[0]) + "\r\n";
+    std::string general = ";crafted\r\n";
+    for (const char* key : kMiscKeys) misc += Head(key) + SimpleCrypt(line) + "\r\n";
+    for (const char* key : kGeneralKeys) general += Head(key) + SimpleCrypt(line) + "\r\n";
+    Write(system / "Misc.001", misc);
+    Write(system / "General.001", general);
+  }
+  size_t bytes = 0;
+  for (const auto& entry : fs::directory_iterator(system)) bytes += static_cast<size_t>(entry.file_size());
+  return bytes;
+}
 
 std::string FamilyFileName(const char* prefix, int number) {
   char name[32];

@@ -37,6 +37,19 @@ void WriteBenchData(const std::string& root);
 // bytes and each holding every key a sentence asks for.
 void WriteScaledFamily(const std::string& root, int files, size_t fileBytes);
 
+// Word lists written to explode, each System/ under 1 MB: the worst cases
+// for one sentence. "tokens": every line holds the five shorthand tokens and
+// groups up to the line bound; "slashes": a group of 30,000 options;
+// "closes": 20,000 stray "}" in front of the groups; "retries": adjectives
+// that are long near matches of each other, so the composer's check for a
+// used one keeps finding them late; "floods": 900 KB of the byte the key
+// search anchors on, and comments between the lines of each key; "files":
+// both families in 999 files of about 500 bytes, lines as in "tokens";
+// "mixed": a flood in front of lines as in "tokens".
+extern const char* const kCraftedShapes[7];
+// Writes root/System for the shape; returns the bytes written.
+size_t WriteCraftedLists(const std::string& root, const std::string& shape);
+
 // "Misc.007" for ("Misc", 7).
 std::string FamilyFileName(const char* prefix, int number);
 

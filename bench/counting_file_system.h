@@ -14,8 +14,8 @@ namespace jeerbox::bench {
 class CountingFileSystem : public IFileSystem {
  public:
   bool FileExists(const std::string& path) override { return mReal.FileExists(path); }
-  FileStatus ReadFile(const std::string& path, std::string* contents) override {
-    const FileStatus status = mReal.ReadFile(path, contents);
+  FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) override {
+    const FileStatus status = mReal.ReadFile(path, contents, maxBytes);
     if (status == FileStatus::kOk) ++mReads[path];
     return status;
   }

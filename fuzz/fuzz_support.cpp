@@ -1,5 +1,9 @@
 #include "fuzz_support.h"
 
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+
 #include "support/globals.h"
 #include "support/random.h"
 
@@ -30,6 +34,35 @@ std::vector<std::string> SplitInput(const uint8_t* data, size_t size, size_t par
   }
   out.push_back(input.substr(start));
   return out;
+}
+
+namespace {
+
+long long SlowLimitMs() {
+  static const long long limit = [] {
+    const char* text = std::getenv("JEERBOX_FUZZ_SLOW_MS");
+    return text ? std::atoll(text) : 250;
+  }();
+  return limit;
+}
+
+// The CPU time of this thread: what the input costs, whatever else runs on
+// the machine meanwhile.
+double ThreadMs() {
+  timespec now{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+}  // namespace
+
+SlowInputLimit::SlowInputLimit() : mStartMs(ThreadMs()) {}
+
+SlowInputLimit::~SlowInputLimit() {
+  const double spent = ThreadMs() - mStartMs;
+  if (SlowLimitMs() <= 0 || spent <= static_cast<double>(SlowLimitMs())) return;
+  std::fprintf(stderr, "slow input: %.0f ms of CPU, the limit is %lld ms\n", spent, SlowLimitMs());
+  std::abort();
 }
 
 }  // namespace jeerbox::fuzz

@@ -18,4 +18,19 @@ MemoryFileSystem& Files();
 // Splits the input at a separator line into up to `parts` pieces.
 std::vector<std::string> SplitInput(const uint8_t* data, size_t size, size_t parts);
 
+// Fails the input (abort, so libFuzzer keeps it) when the work in its scope
+// takes more than JEERBOX_FUZZ_SLOW_MS milliseconds of CPU (default 250):
+// the bound of one sentence, 50 ms in a release build, with room for the
+// sanitizers.
+class SlowInputLimit {
+ public:
+  SlowInputLimit();
+  ~SlowInputLimit();
+  SlowInputLimit(const SlowInputLimit&) = delete;
+  SlowInputLimit& operator=(const SlowInputLimit&) = delete;
+
+ private:
+  double mStartMs;
+};
+
 }  // namespace jeerbox::fuzz

@@ -10,7 +10,9 @@
 #include "platform/message_box.h"
 #include "platform/shell.h"
 #include "sound/MSounds.h"
+#include "support/failure.h"
 #include "support/globals.h"
+#include "text/CTextGenerator.h"
 
 namespace jeerbox {
 namespace {
@@ -51,29 +53,40 @@ std::string FJeerbox::AboutText() const {
          mDeployment.sponsorsAddress + paragraphBreak + mDeployment.noticeLine;
 }
 
-void FJeerbox::cmdAbout_Click() { Services().messageBox->MsgBox(AboutText(), kIconInformation, kAppTitle); }
-
-void FJeerbox::cmdClose_Click() { mShutdownApp(); }
-
-void FJeerbox::cmdCopy_Click() {
-  if (mView) Services().clipboard->SetText(mView->InsultText());
+// Each handler ends in its neutral result whatever fails below it: nothing
+// may escape into the toolkit's event loop, which would end the program.
+void FJeerbox::cmdAbout_Click() {
+  IgnoringFailure([this] { Services().messageBox->MsgBox(AboutText(), kIconInformation, kAppTitle); });
 }
 
+void FJeerbox::cmdClose_Click() { IgnoringFailure(mShutdownApp); }
+
+void FJeerbox::cmdCopy_Click() {
+  IgnoringFailure([this] {
+    if (mView) Services().clipboard->SetText(mView->InsultText());
+  });
+}
+
+// A sentence that can't be made reads like one from missing files.
 void FJeerbox::cmdInsult_Click() {
-  const std::string sentence = mInsultSource();
-  if (mView) mView->SetInsultText(sentence);
-  PlaySoundFX("misc_laugh");
+  const std::string sentence = ResultOr<std::string>(kMissingFilesText, mInsultSource);
+  IgnoringFailure([this, &sentence] {
+    if (mView) mView->SetInsultText(sentence);
+  });
+  IgnoringFailure([] { PlaySoundFX("misc_laugh"); });
   // Only being above 0 matters; the count stops rather than wrap negative.
   if (mInsultCount < INT16_MAX) ++mInsultCount;
-  UpdateButtons();
+  IgnoringFailure([this] { UpdateButtons(); });
 }
 
 void FJeerbox::Form_QueryUnload(int16_t& cancelFlag, int16_t unloadReason) {
   (void)cancelFlag;  // never set: the window always closes
-  if (unloadReason == kUnloadFormControlMenu) mShutdownApp();
+  if (unloadReason == kUnloadFormControlMenu) IgnoringFailure(mShutdownApp);
 }
 
-void FJeerbox::imgSponsoredBy_Click() { TryURL(mDeployment.sponsorHomeUrl); }
+void FJeerbox::imgSponsoredBy_Click() {
+  IgnoringFailure([this] { TryURL(mDeployment.sponsorHomeUrl); });
+}
 
 void FJeerbox::TryURL(const std::string& url) {
   if (IsConnected()) {
@@ -123,7 +136,7 @@ bool FJeerbox::WindowClosing() {
   int16_t cancel = 0;
   Form_QueryUnload(cancel, mUnloadRequested ? kUnloadFormCode : kUnloadFormControlMenu);
   if (cancel != 0) return false;
-  if (mOnUnloaded) mOnUnloaded();
+  if (mOnUnloaded) IgnoringFailure(mOnUnloaded);
   return true;
 }
 

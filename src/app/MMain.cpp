@@ -10,6 +10,7 @@
 #include "platform/process.h"
 #include "sound/FDMC.h"
 #include "support/MSimpleIO.h"
+#include "support/failure.h"
 #include "support/globals.h"
 
 namespace jeerbox {
@@ -33,25 +34,7 @@ void LoadAudioForm() {
   });
 }
 
-// A failing step of the shutdown never stops the next one.
-template <typename Step>
-void IgnoringFailure(Step step) {
-  try {
-    step();
-  } catch (...) {
-  }
-}
-
-}  // namespace
-
-std::string PreviousInstanceText() {
-  const std::string t = kAppTitle;
-  return "There is another copy of " + t + " (or " + t + " Configuration) currently running" + "\r\r" +
-         "If you have just closed " + t + " " +
-         "then you may need to wait for a few seconds before starting again";
-}
-
-void Main() {
+void StartProgram() {
   AppServices& services = Services();
   gAppPath = services.process->ExecutableDirectory();
   gAllowMarkedText = true;
@@ -63,10 +46,32 @@ void Main() {
   if (!Trim(services.process->CommandLine()).empty()) {
     services.messageBox->MsgBox("Invalid command line ignored", kIconExclamation, kAppTitle);
   }
-  if (!gFDMC) LoadAudioForm();
-  gFDMC->Setup();
+  IgnoringFailure([] {
+    if (!gFDMC) LoadAudioForm();
+    gFDMC->Setup();
+  });
   if (!MainForm()) LoadMainForm(std::make_unique<FJeerbox>(BuiltInDeployment(), ShutdownApp));
   ShowMainForm();
+}
+
+}  // namespace
+
+std::string PreviousInstanceText() {
+  const std::string t = kAppTitle;
+  return "There is another copy of " + t + " (or " + t + " Configuration) currently running" + "\r\r" +
+         "If you have just closed " + t + " " +
+         "then you may need to wait for a few seconds before starting again";
+}
+
+// Audio is decoration: a setup that fails leaves the program silent. Should
+// the window itself fail to come up, there is nothing to go on with, and
+// the process ends rather than wait in an event loop with no window.
+void Main() {
+  try {
+    StartProgram();
+  } catch (...) {
+    IgnoringFailure([] { Services().process->End(); });
+  }
 }
 
 void ShutdownApp() {

@@ -24,9 +24,20 @@ bool ListFiles(const std::string& dir, std::vector<std::string>* names, std::str
   return false;
 }
 
+// Through the guarded read, as the program reads: a pipe never blocks, and
+// a file too large for a word list is refused, not allocated.
 bool ReadFileBytes(const std::string& path, std::string* bytes, std::string* error) {
-  if (CurrentFileSystem().ReadFile(path, bytes) == FileStatus::kOk) return true;
-  *error = Failure(path, "can't be opened");
+  switch (CurrentFileSystem().ReadFile(path, bytes, kMaxWordListBytes)) {
+    case FileStatus::kOk:
+      return true;
+    case FileStatus::kNotFound:
+      *error = Failure(path, "can't be opened");
+      return false;
+    case FileStatus::kError:
+      break;
+  }
+  *error = Failure(path, "can't be read (not a readable file of at most " +
+                             std::to_string(kMaxWordListBytes >> 20) + " MB)");
   return false;
 }
 

@@ -7,6 +7,7 @@
 #include "support/random.h"
 #include "text/CTextGenerator.h"
 #include "text/charset.h"
+#include "text/find_bytes.h"
 #include "text/shorthand.h"
 #include "text/wordlist_format.h"
 
@@ -21,9 +22,11 @@ int AdjectiveCount(int r) {
 }
 
 // A text is refused when it occurs anywhere in the list so far. An empty
-// list holds nothing, not even the empty text.
+// list holds nothing, not even the empty text. The search is linear: a
+// list made of near matches would make a plain find quadratic, and the
+// composer may ask 64 times.
 bool AlreadyUsed(const std::string& adjectives, const std::string& text) {
-  return !adjectives.empty() && adjectives.find(text) != std::string::npos;
+  return !adjectives.empty() && FindBytes(adjectives, text) != std::string_view::npos;
 }
 
 // When the list can't supply a new text (too few lines, or the files are
@@ -43,9 +46,7 @@ std::string FetchAdjectives(CTextGenerator& generator, int count) {
   return adjectives;
 }
 
-}  // namespace
-
-std::string GenerateInsult() {
+std::string ComposeSentence() {
   CTextGenerator generator;
   generator.Setup(nullptr);
 
@@ -70,6 +71,16 @@ std::string GenerateInsult() {
   if (shape <= 4) return "You " + noun;
   if (shape <= 16) return "You " + insult;
   return whoSays + "said " + person + Trim(insult) + "!!";
+}
+
+}  // namespace
+
+// Held to the bound of one pick: a sentence of crafted lists would otherwise
+// be ten picks long, and the window would take its time laying it out.
+std::string GenerateInsult() {
+  std::string sentence = ComposeSentence();
+  if (sentence.size() > kMaxTextLength) sentence.resize(kMaxTextLength);
+  return sentence;
 }
 
 std::string FixArticle(const std::string& phrase, const std::string& nextWords) {

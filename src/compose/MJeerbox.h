@@ -6,8 +6,8 @@
 
 namespace jeerbox {
 
-// A fresh sentence. Never fails: missing word lists show up as the fixed
-// "files missing" line inside the sentence.
+// A fresh sentence of at most kMaxTextLength characters. Never fails:
+// missing word lists show up as the fixed "files missing" line inside it.
 std::string GenerateInsult();
 
 // `phrase` trimmed with "n " appended when it ends in the separate word "a"

@@ -12,6 +12,19 @@ FDMC* gFDMC = nullptr;
 
 bool HasWaveDevice(IWaveDevices& devices) { return devices.waveOutGetNumDevs() > 0; }
 
+// The control is handed only a file it can take whole: one that exists and
+// reads as a regular file within the media limit. A pipe, a device or a
+// file of gigabytes is as silent as a missing one.
+bool IsPlayableFile(const std::string& fileName) {
+  if (!FileExists(fileName)) return false;
+  try {
+    std::string bytes;
+    return CurrentFileSystem().ReadFile(fileName, &bytes, kMaxMediaBytes) == FileStatus::kOk;
+  } catch (...) {
+    return false;
+  }
+}
+
 FDMC::FDMC(IAudioControl& control, IWaveDevices& devices) : mControl(control), mDevices(devices) {}
 
 void FDMC::Setup() {
@@ -61,7 +74,7 @@ void FDMC::StopGameSoundBG() {
 }
 
 void FDMC::PlayGameSoundBG(const std::string& fileName, bool looping) {
-  if (!mEnableMusic || !FileExists(fileName)) return;
+  if (!mEnableMusic || !IsPlayableFile(fileName)) return;
   StopGameSoundBG();
   mControl.LoadMusic(fileName);
   mControl.PlayMusic(looping);
@@ -69,7 +82,7 @@ void FDMC::PlayGameSoundBG(const std::string& fileName, bool looping) {
 
 // An effect cuts off whatever still played on its channel, eight effects ago.
 void FDMC::PlayGameSoundFX(const std::string& fileName) {
-  if (!mEnableFX || !FileExists(fileName)) return;
+  if (!mEnableFX || !IsPlayableFile(fileName)) return;
   if (++mFXChannel > kFXChannels) mFXChannel = 1;
   mControl.SetChannel(mFXChannel);
   mControl.StopChannel();

@@ -52,6 +52,9 @@ class FDMC {
 // True when the machine has a wave output device.
 bool HasWaveDevice(IWaveDevices& devices);
 
+// True when the file exists and can be read whole as a media file.
+bool IsPlayableFile(const std::string& fileName);
+
 // The one audio form of the process; null until the program sets it up.
 extern FDMC* gFDMC;
 

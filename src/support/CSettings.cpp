@@ -56,8 +56,12 @@ void CSettings::WriteSetting(const std::string& settingName, const std::string& 
 std::string CSettings::ReadGeneralSetting(const std::string& configFileName, const std::string& section,
                                           const std::string& settingName, const std::string& defaultValue) {
   char buffer[kBufferSize];
-  const int length = CurrentProfile().GetPrivateProfileStringA(section, settingName, "", buffer, kBufferSize,
-                                                               configFileName);
+  int length = 0;
+  try {
+    length = CurrentProfile().GetPrivateProfileStringA(section, settingName, "", buffer, kBufferSize,
+                                                       configFileName);
+  } catch (...) {  // every reading problem ends in the default
+  }
   return length > 0 ? std::string(buffer, static_cast<size_t>(length)) : defaultValue;
 }
 

@@ -51,10 +51,13 @@ bool ReplaceWholeFile(const std::string& path, const std::string& contents) {
 
 bool FileExists(const std::string& path) { return CurrentFileSystem().FileExists(path); }
 
-std::string ReadWholeFile(const std::string& path) {
+std::string ReadWholeFile(const std::string& path, size_t maxBytes) {
   std::string contents;
-  if (CurrentFileSystem().ReadFile(path, &contents) != FileStatus::kOk) contents.clear();
-  return contents;
+  try {
+    if (CurrentFileSystem().ReadFile(path, &contents, maxBytes) == FileStatus::kOk) return contents;
+  } catch (...) {  // memory, say: a file that can't be held can't be read
+  }
+  return std::string();
 }
 
 std::string StripPath(const std::string& path) {

@@ -42,9 +42,9 @@ bool ReplaceWholeFile(const std::string& path, const std::string& contents);
 
 bool FileExists(const std::string& path);
 
-// The file's bytes, one character per byte, or "" when it is missing or
-// can't be read.
-std::string ReadWholeFile(const std::string& path);
+// The file's bytes, one character per byte, or "" when it is missing, can't
+// be read, or holds more than `maxBytes` (by default a word list's limit).
+std::string ReadWholeFile(const std::string& path, size_t maxBytes = kMaxWordListBytes);
 
 // The part behind the last "\"; the path itself if there is none.
 std::string StripPath(const std::string& path);

@@ -86,21 +86,25 @@ int CopyOut(const std::string& value, char* buffer, int size) {
 int PortableProfile::GetPrivateProfileStringA(const std::string& section, const std::string& key,
                                               const std::string& defaultValue, char* buffer, int size,
                                               const std::string& fileName) {
-  std::string text;
-  if (CurrentFileSystem().ReadFile(fileName, &text) != FileStatus::kOk)
-    return CopyOut(defaultValue, buffer, size);
-  const std::vector<std::string> lines = SplitLines(text);
-  const auto [begin, end] = FindSection(lines, section);
-  std::string name, value;
-  for (size_t i = begin; begin != std::string::npos && i < end; ++i)
-    if (Entry(lines[i], &name, &value) && SameName(name, key)) return CopyOut(Unquote(value), buffer, size);
+  try {
+    std::string text;
+    if (CurrentFileSystem().ReadFile(fileName, &text, kMaxSettingsBytes) == FileStatus::kOk) {
+      const std::vector<std::string> lines = SplitLines(text);
+      const auto [begin, end] = FindSection(lines, section);
+      std::string name, value;
+      for (size_t i = begin; begin != std::string::npos && i < end; ++i)
+        if (Entry(lines[i], &name, &value) && SameName(name, key))
+          return CopyOut(Unquote(value), buffer, size);
+    }
+  } catch (...) {  // memory, say: what can't be read gives the default
+  }
   return CopyOut(defaultValue, buffer, size);
 }
 
 bool PortableProfile::WritePrivateProfileStringA(const std::string& section, const std::string& key,
                                                  const std::string& value, const std::string& fileName) {
   std::string text;
-  if (CurrentFileSystem().ReadFile(fileName, &text) == FileStatus::kError) return false;
+  if (CurrentFileSystem().ReadFile(fileName, &text, kMaxSettingsBytes) == FileStatus::kError) return false;
   std::vector<std::string> lines = SplitLines(text);
   const std::string entry = key + "=" + value;
   auto [begin, end] = FindSection(lines, section);

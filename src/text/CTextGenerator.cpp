@@ -1,6 +1,8 @@
 // The text store: numbered files, scrambled sections, random picks.
 #include "text/CTextGenerator.h"
 
+#include <algorithm>
+
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
 #include "support/random.h"
@@ -31,7 +33,9 @@ std::string CTextGenerator::PickText(const std::string& key) {
   Reseed();
   const std::string_view line = lines[static_cast<size_t>(RandomIndex(static_cast<int>(lines.size())))];
   if (line.empty()) return kMissingFilesText;
-  std::string text = SimpleCrypt(line);
+  // The passes never keep more than this of a line: unscrambling more of a
+  // long one would only cost.
+  std::string text = SimpleCrypt(line.substr(0, kMaxTextLength));
   text = CTextUtils::ParseGameTokens(std::move(text), mCityName, mPlayerName, mWeaponName, mRatingName);
   text = CTextUtils::ParseInlineTokens(std::move(text));
   return Trim(text);
@@ -62,19 +66,23 @@ const CTextGenerator::Family& CTextGenerator::FamilyOf(const std::string& key) {
   auto found = mFamilies.find(name);
   if (found != mFamilies.end()) return found->second;
   Family& family = mFamilies[name];
+  size_t familyBytes = 0;
   for (int n = 1; n <= kMaxFileNumber; ++n) {
     auto file = std::make_unique<TextFile>();
-    if (!ReadTextFile(BuildTextFileName(key, n), file.get())) break;
+    const size_t limit = std::min(kMaxWordListBytes, kMaxFamilyBytes - familyBytes);
+    if (!ReadTextFile(BuildTextFileName(key, n), limit, file.get())) break;
+    familyBytes += file->bytes.size();
     family.push_back(std::move(file));
   }
   return family;
 }
 
 // A file that exists but can't be read counts as empty: no marker, no
-// sections, and the scan goes on behind it.
-bool CTextGenerator::ReadTextFile(const std::string& fileName, TextFile* file) {
+// sections, and the scan goes on behind it. So does a file beyond the
+// limit, which keeps what one family may hold in memory bounded.
+bool CTextGenerator::ReadTextFile(const std::string& fileName, size_t maxBytes, TextFile* file) {
   IFileSystem& fs = CurrentFileSystem();
-  const FileStatus status = fs.ReadFile(fileName, &file->bytes);
+  const FileStatus status = fs.ReadFile(fileName, &file->bytes, maxBytes);
   if (status == FileStatus::kNotFound || (status == FileStatus::kError && !fs.FileExists(fileName)))
     return false;
   if (status != FileStatus::kOk) file->bytes.clear();

@@ -13,6 +13,7 @@
 #include "text/CGame.h"
 #include "text/IItemCacheProvider.h"
 #include "text/LineList.h"
+#include "text/shorthand.h"
 #include "text/wordlist_format.h"
 
 namespace jeerbox {
@@ -57,10 +58,13 @@ class CTextGenerator : public IItemCacheProvider<LineList> {
   // The key's family: its files from number 1 up to the first missing one,
   // each read once per generator however many keys ask for it.
   const Family& FamilyOf(const std::string& key);
-  // Reads the file; false when it doesn't exist.
-  static bool ReadTextFile(const std::string& fileName, TextFile* file);
+  // Reads the file, up to `maxBytes`; false when it doesn't exist.
+  static bool ReadTextFile(const std::string& fileName, size_t maxBytes, TextFile* file);
   static bool IsFileAllowed(const TextFile& file);
 
+  // First, so that it ends last: the lookups of this generator's picks, and
+  // the work they may spend (text/shorthand.h).
+  ExpansionRequest mRequest;
   std::string mPlayerName;
   std::string mCityName;
   std::string mRatingName;

@@ -17,6 +17,7 @@ class CTextUtils {
  public:
   // Named tokens ("<Insult>" and the like), in their fixed order. A token
   // present in the text is looked up once and every occurrence replaced.
+  // Both passes work within the bounds of text/shorthand.h.
   static std::string ParseGameTokens(std::string text, const std::string& cityName,
                                      const std::string& playerName, const std::string& weaponName,
                                      const std::string& ratingName);
@@ -39,7 +40,8 @@ class CTextUtils {
 };
 
 // Every occurrence of `from` replaced by `to`, left to right, without
-// rescanning what was inserted.
-std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
+// rescanning what was inserted; the result is cut at `maxLength`.
+std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to,
+                       size_t maxLength = std::string::npos);
 
 }  // namespace jeerbox

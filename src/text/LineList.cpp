@@ -1,5 +1,7 @@
 #include "text/LineList.h"
 
+#include <algorithm>
+
 #include "text/wordlist_format.h"
 
 namespace jeerbox {
@@ -10,9 +12,9 @@ size_t LineList::CountDataLines(std::string_view text, std::vector<Checkpoint>* 
   size_t count = 0;
   ForEachCrLfPiece(text, [&](std::string_view piece) {
     if (!IsDataPiece(piece)) return true;
-    if (count % kCheckpointLines == 0)
-      checkpoints->push_back(
-          {static_cast<uint32_t>(piece.data() - text.data()), static_cast<uint32_t>(count)});
+    const auto offset = static_cast<size_t>(piece.data() - text.data());
+    if (count % kCheckpointLines == 0 || offset - checkpoints->back().offset > kCheckpointBytes)
+      checkpoints->push_back({static_cast<uint32_t>(offset), static_cast<uint32_t>(count)});
     ++count;
     return true;
   });
@@ -42,10 +44,12 @@ std::string_view LineList::operator[](size_t index) const {
   while (mSegments[s].first > index) --s;
   const Segment& segment = mSegments[s];
   const size_t local = index - segment.first;
-  const Checkpoint* point = &segment.checkpoints[local / kCheckpointLines];
-  size_t skip = local - point->before;
+  const Checkpoint& point = *std::prev(
+      std::upper_bound(segment.checkpoints.begin(), segment.checkpoints.end(), local,
+                       [](size_t line, const Checkpoint& checkpoint) { return line < checkpoint.before; }));
+  size_t skip = local - point.before;
   std::string_view found;
-  ForEachCrLfPiece(segment.text.substr(point->offset), [&](std::string_view piece) {
+  ForEachCrLfPiece(segment.text.substr(point.offset), [&](std::string_view piece) {
     if (!IsDataPiece(piece) || skip-- != 0) return true;
     found = piece;
     return false;

@@ -49,8 +49,11 @@ class LineList {
 
  private:
   // A place to start looking for a line: the offset of data line number
-  // `before` of the section; one every kCheckpointLines lines.
+  // `before` of the section; one every kCheckpointLines lines, and one at
+  // each line further than kCheckpointBytes behind the last, so that no
+  // pick walks far whatever stands between the lines.
   static constexpr size_t kCheckpointLines = 32;
+  static constexpr size_t kCheckpointBytes = 4096;
   struct Checkpoint {
     uint32_t offset;
     uint32_t before;

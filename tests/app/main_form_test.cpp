@@ -10,6 +10,7 @@
 #include "helpers/fake_file_system.h"
 #include "sound/FDMC.h"
 #include "support/globals.h"
+#include "text/CTextGenerator.h"
 
 namespace jeerbox::testing {
 namespace {
@@ -64,6 +65,15 @@ TEST_F(MainForm, EachSentenceReplacesTheLastAndPlaysALaugh) {
   for (const std::string& entry : platform.log)
     laughs += entry == "audio LoadChannel " + gAppPath + "\\Media\\misc_laugh.wav";
   EXPECT_EQ(laughs, 3);
+}
+
+TEST_F(MainForm, ASentenceThatCantBeMadeIsTheFixedLineAndThePressGoesOn) {
+  files.Write(gAppPath + "\\Media\\misc_laugh.wav", "RIFF");
+  form->SetInsultSource([]() -> std::string { throw std::bad_alloc(); });
+  form->cmdInsult_Click();
+  EXPECT_EQ(view->InsultText(), kMissingFilesText);
+  EXPECT_NE(FindInLog(platform.log, "audio LoadChannel " + gAppPath + "\\Media\\misc_laugh.wav"), -1);
+  EXPECT_TRUE(view->copyEnabled);
 }
 
 TEST_F(MainForm, CountStopsAtItsLimitInsteadOfTurningCopyOff) {

@@ -11,9 +11,9 @@ bool FakeFileSystem::FileExists(const std::string& path) {
   return MemoryFileSystem::FileExists(path);
 }
 
-FileStatus FakeFileSystem::ReadFile(const std::string& path, std::string* contents) {
+FileStatus FakeFileSystem::ReadFile(const std::string& path, std::string* contents, size_t maxBytes) {
   mTouched.push_back(path);
-  const FileStatus status = MemoryFileSystem::ReadFile(path, contents);
+  const FileStatus status = MemoryFileSystem::ReadFile(path, contents, maxBytes);
   if (status == FileStatus::kOk) ++mReads[path];
   return status;
 }

@@ -17,7 +17,7 @@ class FakeFileSystem : public MemoryFileSystem {
   ~FakeFileSystem() override;
 
   bool FileExists(const std::string& path) override;
-  FileStatus ReadFile(const std::string& path, std::string* contents) override;
+  FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) override;
   bool WriteFile(const std::string& path, const std::string& contents, std::string* error) override;
 
   // Successful reads of the path.

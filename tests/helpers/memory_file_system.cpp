@@ -25,11 +25,12 @@ bool MemoryFileSystem::FileExists(const std::string& path) {
   return mFiles.count(path) > 0 || mUnreadable.count(path) > 0 || IsDirectory(path);
 }
 
-FileStatus MemoryFileSystem::ReadFile(const std::string& path, std::string* contents) {
+FileStatus MemoryFileSystem::ReadFile(const std::string& path, std::string* contents, size_t maxBytes) {
   contents->clear();
   if (mUnreadable.count(path) || IsDirectory(path)) return FileStatus::kError;
   auto it = mFiles.find(path);
   if (it == mFiles.end()) return FileStatus::kNotFound;
+  if (it->second.size() > maxBytes) return FileStatus::kError;
   *contents = it->second;
   return FileStatus::kOk;
 }

@@ -24,7 +24,7 @@ class MemoryFileSystem : public IFileSystem {
   const std::map<std::string, std::string>& Files() const { return mFiles; }
 
   bool FileExists(const std::string& path) override;
-  FileStatus ReadFile(const std::string& path, std::string* contents) override;
+  FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) override;
   bool ListFiles(const std::string& dir, std::vector<std::string>* names, std::string* error) override;
   bool MakeDirectories(const std::string& dir, std::string* error) override;
   bool WriteFile(const std::string& path, const std::string& contents, std::string* error) override;

@@ -73,7 +73,7 @@ TEST_F(ProfileTest, ValueIsCutToOneLessThanTheBuffer) {
 
 TEST_F(ProfileTest, HugeValueAndGarbageLinesDoNotDisturbTheRest) {
   std::string text = "\xff\xfe garbage\r\n[TW]\r\n=novalue\r\n;EnableFX=commented\r\n";
-  text += "Huge=" + std::string(1 << 20, 'h') + "\r\n";
+  text += "Huge=" + std::string(1 << 16, 'h') + "\r\n";
   text += "no equals sign here\r\n]odd[\r\nEnableFX=True\r\n";
   mFiles.Write(kFile, text);
   EXPECT_EQ(Get("TW", "EnableFX"), "True");

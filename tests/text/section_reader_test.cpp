@@ -5,6 +5,7 @@
 #include "text/CTextGenerator.h"
 #include "text/CTextUtils.h"
 #include "text/MSimpleCrypto.h"
+#include "text/find_bytes.h"
 
 namespace jeerbox {
 namespace {
@@ -31,6 +32,22 @@ TEST(ReadSection, MissingKeyOrHeadAtTheEndGivesNothing) {
   EXPECT_EQ(CTextUtils::ReadSectionFromText("A", "[A]"), "");
   EXPECT_EQ(CTextUtils::ReadSectionFromText("A", "[A]\r\n"), "\r\n");
   EXPECT_TRUE(Pieces("\r\n").empty());
+}
+
+// Near matches, packed thick, send the search down its linear path, which
+// must find what a plain search finds: at every offset, for needles that
+// overlap themselves too.
+TEST(FindBytes, AgreesWithAPlainSearchAmongNearMatches) {
+  for (const std::string& needle :
+       {std::string("aab"), std::string("abaab"), SimpleCrypt("Misc-Jeerbox-Noun")}) {
+    const std::string nearly = needle.substr(0, needle.size() - 1);
+    for (size_t count = 0; count < 150; ++count) {
+      std::string repeated;
+      for (size_t i = 0; i < count; ++i) repeated += nearly;
+      for (const std::string& haystack : {repeated + needle + nearly, std::string(count, needle[0]) + needle})
+        ASSERT_EQ(FindBytes(haystack, needle), haystack.find(needle)) << needle << " after " << count;
+    }
+  }
 }
 
 TEST(ReadSection, HeadFollowedByHeadHoldsALoneCr) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <new>
 
 #include "platform/file_system.h"
 
@@ -20,11 +21,13 @@ bool Fail(std::string* error) {
 }
 
 // One read of size + 1 bytes normally ends it: a short read of a regular
-// file means end of file. A file that grew meanwhile is read on to its end.
-bool ReadAll(int fd, std::string* contents) {
+// file means end of file. A file that grew meanwhile is read on to its end,
+// or to the limit, past which it counts as unreadable.
+bool ReadAll(int fd, std::string* contents, size_t maxBytes) {
   struct stat info {};
   if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) return false;
   const auto expected = static_cast<size_t>(info.st_size);
+  if (expected > maxBytes) return false;
   contents->resize(expected + 1);
   size_t done = 0;
   for (;;) {
@@ -33,6 +36,7 @@ bool ReadAll(int fd, std::string* contents) {
     if (n < 0) return false;
     done += static_cast<size_t>(n);
     if (n == 0 || done == expected) break;
+    if (done > maxBytes) return false;
     if (done == contents->size()) contents->resize(done + 4096);
   }
   contents->resize(done);
@@ -57,14 +61,24 @@ class PosixFileSystem : public IFileSystem {
     return stat(NativePath(path).c_str(), &info) == 0;
   }
 
-  FileStatus ReadFile(const std::string& path, std::string* contents) override {
+  // O_NONBLOCK: opening a named pipe would otherwise wait for a writer. What
+  // isn't a regular file is refused on fstat, before any read.
+  FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) override {
     contents->clear();
-    const int fd = open(NativePath(path).c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return errno == ENOENT || errno == ENOTDIR ? FileStatus::kNotFound : FileStatus::kError;
-    const bool ok = ReadAll(fd, contents);
-    close(fd);
-    if (!ok) contents->clear();
-    return ok ? FileStatus::kOk : FileStatus::kError;
+    try {
+      const int fd = open(NativePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+      if (fd < 0) return errno == ENOENT || errno == ENOTDIR ? FileStatus::kNotFound : FileStatus::kError;
+      bool ok = false;
+      try {
+        ok = ReadAll(fd, contents, maxBytes);
+      } catch (const std::bad_alloc&) {
+      }
+      close(fd);
+      if (ok) return FileStatus::kOk;
+    } catch (const std::bad_alloc&) {
+    }
+    std::string().swap(*contents);
+    return FileStatus::kError;
   }
 
   bool ListFiles(const std::string& dir, std::vector<std::string>* names, std::string* error) override {

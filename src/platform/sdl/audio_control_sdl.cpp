@@ -8,6 +8,17 @@
 #include "platform/sdl/audio_sdl.h"
 
 namespace jeerbox {
+namespace {
+
+// SDL_mixer is handed the file's bytes, never its name: it would open a
+// named pipe and wait, or take a file of gigabytes. What the guarded read
+// refuses is a sound that can't be loaded.
+SDL_RWops* ReadMedia(const SdlLibrary& sdl, const std::string& fileName, std::string* bytes) {
+  if (HostFileSystem().ReadFile(fileName, bytes, kMaxMediaBytes) != FileStatus::kOk) return nullptr;
+  return sdl.SDL_RWFromConstMem(bytes->data(), static_cast<int>(bytes->size()));
+}
+
+}  // namespace
 
 void PanVolumes(int32_t pan, uint8_t* left, uint8_t* right) {
   const int32_t clamped = std::clamp(pan, -90, 90);
@@ -37,10 +48,12 @@ bool SdlAudioControl::ResetMixer() {
 
 bool SdlAudioControl::CloseMusic() {
   const SdlLibrary* sdl = mHost->Mixer();
-  if (mMusic == nullptr || sdl == nullptr) return true;
-  sdl->Mix_HaltMusic();
-  sdl->Mix_FreeMusic(mMusic);
-  mMusic = nullptr;
+  if (mMusic != nullptr && sdl != nullptr) {
+    sdl->Mix_HaltMusic();
+    sdl->Mix_FreeMusic(mMusic);
+    mMusic = nullptr;
+  }
+  std::string().swap(mMusicBytes);
   return true;
 }
 
@@ -55,7 +68,9 @@ bool SdlAudioControl::LoadMusic(const std::string& fileName) {
   const SdlLibrary* sdl = mHost->Mixer();
   if (sdl == nullptr) return false;
   CloseMusic();
-  mMusic = sdl->Mix_LoadMUS(NativePath(fileName).c_str());
+  SDL_RWops* source = ReadMedia(*sdl, fileName, &mMusicBytes);
+  if (source != nullptr) mMusic = sdl->Mix_LoadMUS_RW(source, 1);
+  if (mMusic == nullptr) std::string().swap(mMusicBytes);
   return mMusic != nullptr;
 }
 
@@ -114,7 +129,9 @@ bool SdlAudioControl::LoadChannel(const std::string& fileName) {
   const int index = SelectedMixerChannel();
   if (index < 0) return false;
   const SdlLibrary& sdl = *mHost->Mixer();
-  Mix_Chunk* chunk = sdl.Mix_LoadWAV_RW(sdl.SDL_RWFromFile(NativePath(fileName).c_str(), "rb"), 1);
+  std::string bytes;
+  SDL_RWops* source = ReadMedia(sdl, fileName, &bytes);
+  Mix_Chunk* chunk = source == nullptr ? nullptr : sdl.Mix_LoadWAV_RW(source, 1);
   if (chunk == nullptr) return false;
   FreeChunk(sdl, index);
   mChunks[static_cast<size_t>(index)] = chunk;

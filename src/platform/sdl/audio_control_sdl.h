@@ -64,6 +64,8 @@ class SdlAudioControl : public IAudioControl {
   std::array<Mix_Chunk*, kChannels> mChunks{};
   std::array<int32_t, kChannels> mPans{};
   Mix_Music* mMusic = nullptr;
+  // The music's file: SDL_mixer reads it while the music plays.
+  std::string mMusicBytes;
 };
 
 // Left and right volumes (0 to 255) for a pan from -90 (left) to 90

@@ -13,7 +13,7 @@ namespace jeerbox {
   X(SDL_InitSubSystem)      \
   X(SDL_QuitSubSystem)      \
   X(SDL_GetNumAudioDevices) \
-  X(SDL_RWFromFile)         \
+  X(SDL_RWFromConstMem)     \
   X(SDL_TLSCleanup)
 
 #define JEERBOX_SDL_MIXER(X) \
@@ -27,7 +27,7 @@ namespace jeerbox {
   X(Mix_HaltChannel)         \
   X(Mix_SetPanning)          \
   X(Mix_PlayChannelTimed)    \
-  X(Mix_LoadMUS)             \
+  X(Mix_LoadMUS_RW)          \
   X(Mix_FreeMusic)           \
   X(Mix_PlayMusic)           \
   X(Mix_HaltMusic)           \
