@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
+#include "platform/process.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ int Run(int argc, char** argv) {
 // Nothing the commands do should throw; if something does (memory, say),
 // the user gets a line saying so rather than an abort.
 int main(int argc, char** argv) {
+  jeerbox::UseBinaryStandardOutput();  // the sentences' bytes, CR and LF as they are
   try {
     return Run(argc, argv);
   } catch (const std::exception& e) {
