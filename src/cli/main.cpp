@@ -16,6 +16,8 @@ int Run(int argc, char** argv) {
       "the scrambled word-list files in System/.",
       "jeer"};
   app.require_subcommand(1);
+  // On Windows CLI11 would take "/dir" for an option; jeer has only "--" ones.
+  app.allow_windows_style_options(false);
   app.fallthrough(false);
   int exitCode = 0;
   jeerbox::AddComposeCommands(app, &exitCode);

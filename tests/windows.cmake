@@ -1,0 +1,49 @@
+# The Windows build's tests, run under Wine through the build's emulator.
+# Each suite is one executable run whole: a Wine process per case would cost
+# more than the cases themselves.
+add_subdirectory(helpers)
+
+# The shared code's own suites, as they stand for Linux.
+add_executable(core_tests
+  support/simple_io_test.cpp
+  support/settings_test.cpp
+  support/profile_file_test.cpp
+  support/random_test.cpp
+  support/windows_1252_test.cpp
+  text/simple_crypto_test.cpp
+  text/section_reader_test.cpp
+  text/text_store_test.cpp
+  text/file_cache_test.cpp
+  text/line_list_test.cpp
+  text/bad_files_test.cpp
+  text/token_expansion_test.cpp
+  compose/insult_composer_test.cpp
+  sound/fdmc_test.cpp
+  sound/sounds_test.cpp
+  app/fake_platform.cpp
+  app/main_form_test.cpp
+  app/program_flow_test.cpp
+)
+target_link_libraries(core_tests PRIVATE jeerbox_test_helpers jeerbox_flow)
+add_test(NAME core_tests COMMAND core_tests)
+
+# Under Wine the build tree lies on drive Z:, and cmd.exe wants backslashes.
+function(jeerbox_wine_path out path)
+  string(REPLACE "/" "\\\\" windows "Z:${path}")
+  set(${out} "${windows}" PARENT_SCOPE)
+endfunction()
+
+# The Windows units, and jeer.exe driven by the tests that drive jeer.
+jeerbox_wine_path(jeer_exe ${JEERBOX_PROGRAM_DIR}/jeer.exe)
+# (The shipped word lists and the escapes are the same on every host: their
+# tests run on Linux only.)
+add_executable(win32_tests
+  cli/jeer_command_test.cpp
+  cli/pack_test.cpp
+  cli/check_test.cpp
+  cli/wordlist_test_util.cpp
+)
+target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}")
+target_link_libraries(win32_tests PRIVATE jeerbox_test_helpers jeer_tools)
+add_dependencies(win32_tests jeer)
+add_test(NAME win32_tests COMMAND win32_tests)
