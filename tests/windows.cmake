@@ -35,15 +35,22 @@ endfunction()
 
 # The Windows units, and jeer.exe driven by the tests that drive jeer.
 jeerbox_wine_path(jeer_exe ${JEERBOX_PROGRAM_DIR}/jeer.exe)
+jeerbox_wine_path(media_dir ${PROJECT_SOURCE_DIR}/data/media)
 # (The shipped word lists and the escapes are the same on every host: their
 # tests run on Linux only.)
 add_executable(win32_tests
+  platform/win32/audio_control_xaudio2_test.cpp
+  platform/win32/desktop_win32_test.cpp
+  platform/win32/file_system_win32_test.cpp
+  platform/win32/internet_win32_test.cpp
+  platform/win32/process_win32_test.cpp
   cli/jeer_command_test.cpp
   cli/pack_test.cpp
   cli/check_test.cpp
   cli/wordlist_test_util.cpp
 )
-target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}")
-target_link_libraries(win32_tests PRIVATE jeerbox_test_helpers jeer_tools)
+target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}" JEERBOX_MEDIA_DIR="${media_dir}")
+target_link_libraries(win32_tests PRIVATE jeerbox_test_helpers jeer_tools jeerbox_win32_app)
 add_dependencies(win32_tests jeer)
-add_test(NAME win32_tests COMMAND win32_tests)
+add_test(NAME win32_tests
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/platform/win32/with_http_server.sh ${JEERBOX_WINE_RUN} $<TARGET_FILE:win32_tests>)
