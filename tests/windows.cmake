@@ -54,3 +54,11 @@ target_link_libraries(win32_tests PRIVATE jeerbox_test_helpers jeer_tools jeerbo
 add_dependencies(win32_tests jeer)
 add_test(NAME win32_tests
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/platform/win32/with_http_server.sh ${JEERBOX_WINE_RUN} $<TARGET_FILE:win32_tests>)
+
+# The real jeerbox.exe on the Wine session's X server, read back through a
+# probe that asks Windows about its window.
+add_executable(window_probe app/win32/window_probe.cpp)
+add_test(NAME app_end_to_end
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/app/win32/e2e_test.sh ${JEERBOX_WINE_RUN} ${JEERBOX_PROGRAM_DIR}
+          $<TARGET_FILE:window_probe> "${JEERBOX_PRODUCT_DOMAIN}" "${JEERBOX_SPONSOR_URL}")
+set_tests_properties(app_end_to_end PROPERTIES TIMEOUT 180 RUN_SERIAL TRUE)
