@@ -44,6 +44,7 @@ add_executable(win32_tests
   platform/win32/file_system_win32_test.cpp
   platform/win32/internet_win32_test.cpp
   platform/win32/process_win32_test.cpp
+  platform/win32/profile_win32_test.cpp
   cli/jeer_command_test.cpp
   cli/pack_test.cpp
   cli/check_test.cpp
@@ -62,3 +63,7 @@ add_test(NAME app_end_to_end
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/app/win32/e2e_test.sh ${JEERBOX_WINE_RUN} ${JEERBOX_PROGRAM_DIR}
           $<TARGET_FILE:window_probe> "${JEERBOX_PRODUCT_DOMAIN}" "${JEERBOX_SPONSOR_URL}")
 set_tests_properties(app_end_to_end PROPERTIES TIMEOUT 180 RUN_SERIAL TRUE)
+
+add_test(NAME jeer_same_sentences
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/cli/same_sentences_test.sh ${JEERBOX_WINE_RUN} $<TARGET_FILE:jeer>
+          ${JEERBOX_HOST_JEER} ${JEERBOX_PROGRAM_DIR})
