@@ -3,8 +3,9 @@
 # lists packed by a jeer built for the build machine, the GoogleTest suites
 # run through a Wine wrapper, and the zip a Windows user unpacks.
 
-# Everything statically linked: the programs import system DLLs only.
-add_link_options(-static -static-libgcc -static-libstdc++)
+# Everything statically linked: the programs import system DLLs only. A
+# release carries no symbols.
+add_link_options(-static -static-libgcc -static-libstdc++ $<$<CONFIG:Release,MinSizeRel>:-s>)
 
 # The program directory is what the zip holds, so it lies apart from the
 # build's own files.
@@ -54,3 +55,13 @@ else()
 endif()
 set(JEERBOX_WORD_PACKER ${JEERBOX_HOST_JEER})
 set(JEERBOX_WORD_PACKER_TARGET jeer_host)
+
+# --- The zip a Windows user unpacks: the program directory as it is. ---
+add_custom_target(windows_zip
+  COMMAND ${CMAKE_COMMAND} -E rm -f ${JEERBOX_PACKAGE_NAME}.zip
+  COMMAND ${CMAKE_COMMAND} -E tar cf ${JEERBOX_PACKAGE_NAME}.zip --format=zip Jeerbox
+  WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
+  BYPRODUCTS ${PROJECT_BINARY_DIR}/${JEERBOX_PACKAGE_NAME}.zip
+  COMMENT "${JEERBOX_PACKAGE_NAME}.zip"
+  VERBATIM)
+add_dependencies(windows_zip jeer jeerbox jeerbox_words jeerbox_sound_data)
