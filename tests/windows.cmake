@@ -3,6 +3,14 @@
 # more than the cases themselves.
 add_subdirectory(helpers)
 
+# Test code is compiled for speed of building: unoptimised, with
+# GoogleTest's headers precompiled once per suite.
+function(jeerbox_windows_suite target)
+  target_compile_options(${target} PRIVATE -O0)
+  target_precompile_headers(${target} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <string> <vector>)
+endfunction()
+target_compile_options(jeerbox_test_helpers PRIVATE -O0)
+
 # The shared code's own suites, as they stand for Linux.
 add_executable(core_tests
   support/simple_io_test.cpp
@@ -25,6 +33,7 @@ add_executable(core_tests
   app/program_flow_test.cpp
 )
 target_link_libraries(core_tests PRIVATE jeerbox_test_helpers jeerbox_flow)
+jeerbox_windows_suite(core_tests)
 add_test(NAME core_tests COMMAND core_tests)
 
 # Under Wine the build tree lies on drive Z:, and cmd.exe wants backslashes.
@@ -52,6 +61,7 @@ add_executable(win32_tests
 )
 target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}" JEERBOX_MEDIA_DIR="${media_dir}")
 target_link_libraries(win32_tests PRIVATE jeerbox_test_helpers jeer_tools jeerbox_win32_app)
+jeerbox_windows_suite(win32_tests)
 add_dependencies(win32_tests jeer)
 add_test(NAME win32_tests
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/platform/win32/with_http_server.sh ${JEERBOX_WINE_RUN} $<TARGET_FILE:win32_tests>)
