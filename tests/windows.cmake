@@ -3,11 +3,20 @@
 # more than the cases themselves.
 add_subdirectory(helpers)
 
-# Test code is compiled for speed of building: unoptimised, with
-# GoogleTest's headers precompiled once per suite.
+# Test code is compiled for speed of building: unoptimised, and the test
+# files of a folder in one compiler run. Apart stay those of tests/app
+# (each names a MainForm of its own) and of the Windows units (windows.h
+# would turn names of the seams into macros).
 function(jeerbox_windows_suite target)
   target_compile_options(${target} PRIVATE -O0)
-  target_precompile_headers(${target} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <string> <vector>)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+  get_target_property(sources ${target} SOURCES)
+  foreach(source IN LISTS sources)
+    get_filename_component(folder ${source} DIRECTORY)
+    if(NOT folder MATCHES "^(app|platform/win32)$")
+      set_source_files_properties(${source} PROPERTIES UNITY_GROUP "${folder}")
+    endif()
+  endforeach()
 endfunction()
 target_compile_options(jeerbox_test_helpers PRIVATE -O0)
 
