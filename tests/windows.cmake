@@ -72,8 +72,13 @@ target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}" JEERBOX_M
 target_link_libraries(win32_tests PRIVATE jeerbox_test_helpers jeer_tools jeerbox_win32_app)
 jeerbox_windows_suite(win32_tests)
 add_dependencies(win32_tests jeer)
+# The clipboard is the session's, shared with the end-to-end test: the
+# clipboard cases run on their own, and everything else beside that test.
 add_test(NAME win32_tests
-  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/platform/win32/with_http_server.sh ${JEERBOX_WINE_RUN} $<TARGET_FILE:win32_tests>)
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/platform/win32/with_http_server.sh ${JEERBOX_WINE_RUN}
+          $<TARGET_FILE:win32_tests> --gtest_filter=-Win32Clipboard.*)
+add_test(NAME win32_clipboard COMMAND win32_tests --gtest_filter=Win32Clipboard.*)
+set_tests_properties(win32_clipboard PROPERTIES RESOURCE_LOCK wine_clipboard)
 
 # The real jeerbox.exe on the Wine session's X server, read back through a
 # probe that asks Windows about its window.
@@ -81,7 +86,7 @@ add_executable(window_probe app/win32/window_probe.cpp)
 add_test(NAME app_end_to_end
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/app/win32/e2e_test.sh ${JEERBOX_WINE_RUN} ${JEERBOX_PROGRAM_DIR}
           $<TARGET_FILE:window_probe> "${JEERBOX_PRODUCT_DOMAIN}" "${JEERBOX_SPONSOR_URL}")
-set_tests_properties(app_end_to_end PROPERTIES TIMEOUT 180 RUN_SERIAL TRUE)
+set_tests_properties(app_end_to_end PROPERTIES TIMEOUT 180 RESOURCE_LOCK wine_clipboard)
 
 add_test(NAME jeer_same_sentences
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/cli/same_sentences_test.sh ${JEERBOX_WINE_RUN} $<TARGET_FILE:jeer>
