@@ -40,7 +40,9 @@ HINTERNET RecordingInternet::InternetOpenUrlA(HINTERNET internet, const char* ur
 }
 
 bool RecordingInternet::InternetCloseHandle(HINTERNET handle) {
-  calls.push_back(handle == &mSession ? "close session" : handle == &mRequest ? "close request" : "close ?");
+  calls.emplace_back(handle == &mSession   ? "close session"
+                     : handle == &mRequest ? "close request"
+                                           : "close ?");
   --openHandles;
   return true;
 }
