@@ -19,6 +19,12 @@ struct Row {
   const char* portable = nullptr;  // the portable reader's answer where it differs on purpose
 };
 
+// A file's bytes, NULs and all.
+template <size_t N>
+std::string Bytes(const char (&text)[N]) {
+  return std::string(text, N - 1);
+}
+
 std::string Read(IProfile& profile, const std::string& path, const Row& row) {
   char buffer[2048];
   const int n = profile.GetPrivateProfileStringA(row.section, row.key, "d  ", buffer, sizeof buffer, path);
@@ -27,8 +33,8 @@ std::string Read(IProfile& profile, const std::string& path, const Row& row) {
 }
 
 TEST(Profile, WindowsAndThePortableReaderAgree) {
-  const std::string nul("[TW]\r\nEnableFX=Tr\0ue\r\n", 22);
-  const std::string utf16("\xff\xfe[\0T\0W\0]\0\r\0\n\0E\0n\0a\0b\0l\0e\0F\0X\0=\0x\0\r\0\n\0", 44);
+  const std::string nul = Bytes("[TW]\r\nEnableFX=Tr\0ue\r\n");
+  const std::string utf16 = Bytes("\xff\xfe[\0T\0W\0]\0\r\0\n\0E\0n\0a\0b\0l\0e\0F\0X\0=\0x\0\r\0\n\0");
   const Row rows[] = {
       {"[TW]\r\nEnableFX=False\r\n", "TW", "EnableFX", "False"},
       {"[tw]\r\nenablefx=False\r\n", "TW", "EnableFX", "False"},
