@@ -54,9 +54,11 @@ endfunction()
 # The Windows units, and jeer.exe driven by the tests that drive jeer.
 jeerbox_wine_path(jeer_exe ${JEERBOX_PROGRAM_DIR}/jeer.exe)
 jeerbox_wine_path(media_dir ${PROJECT_SOURCE_DIR}/data/media)
+jeerbox_wine_path(jeerbox_exe ${JEERBOX_PROGRAM_DIR}/jeerbox.exe)
 # (The shipped word lists and the escapes are the same on every host: their
 # tests run on Linux only.)
 add_executable(win32_tests
+  app/win32/resources_test.cpp
   platform/win32/audio_control_xaudio2_test.cpp
   platform/win32/desktop_win32_test.cpp
   platform/win32/file_system_win32_test.cpp
@@ -68,10 +70,11 @@ add_executable(win32_tests
   cli/check_test.cpp
   cli/wordlist_test_util.cpp
 )
-target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}" JEERBOX_MEDIA_DIR="${media_dir}")
+target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}" JEERBOX_MEDIA_DIR="${media_dir}"
+                                               JEERBOX_EXE=L"${jeerbox_exe}")
 target_link_libraries(win32_tests PRIVATE jeerbox_test_helpers jeer_tools jeerbox_win32_app)
 jeerbox_windows_suite(win32_tests)
-add_dependencies(win32_tests jeer)
+add_dependencies(win32_tests jeer jeerbox)
 # The clipboard is the session's, shared with the end-to-end test: the
 # clipboard cases run on their own, and everything else beside that test.
 add_test(NAME win32_tests
