@@ -40,13 +40,18 @@ if(JEERBOX_HOST_JEER)
   add_custom_target(jeer_host)
 else()
   include(ExternalProject)
+  include(ProcessorCount)
+  ProcessorCount(_jobs)
+  if(NOT _jobs)
+    set(_jobs 1)
+  endif()
   set(_host_dir ${PROJECT_BINARY_DIR}/host-jeer)
   ExternalProject_Add(jeer_host
     SOURCE_DIR ${PROJECT_SOURCE_DIR}
     BINARY_DIR ${_host_dir}
     CMAKE_ARGS -DCMAKE_BUILD_TYPE=Release -DJEERBOX_BUILD_GUI=OFF -DJEERBOX_BUILD_TESTS=OFF
                -DJEERBOX_BUILD_BENCH=OFF
-    BUILD_COMMAND ${CMAKE_COMMAND} --build ${_host_dir} --target jeer
+    BUILD_COMMAND ${CMAKE_COMMAND} --build ${_host_dir} --target jeer -j ${_jobs}
     INSTALL_COMMAND ""
     BUILD_BYPRODUCTS ${_host_dir}/jeer
     BUILD_ALWAYS TRUE
