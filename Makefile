@@ -3,7 +3,7 @@
 PRESET ?= default
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps build run test test-asan lint clean package
+.PHONY: all deps build run test test-asan lint clean package windows
 
 all: build
 
@@ -36,6 +36,12 @@ package: deps
 	@cmake --preset release >/dev/null
 	@cmake --build --preset release -j $(JOBS)
 	@cd build/release && cpack -G DEB
+
+# Jeerbox for Windows, cross-built with mingw-w64: the program directory
+# build/windows/Jeerbox/ and build/windows/Jeerbox-<version>-win64.zip.
+windows: deps
+	@cmake --preset windows >/dev/null
+	@cmake --build --preset windows -j $(JOBS) --target windows_zip
 
 # Each libFuzzer target for FUZZ_SECONDS (default 60) on a scratch copy of
 # its corpus; fails on a crash, a leak, a slow input or too much memory.

@@ -2,7 +2,8 @@
 # core and the program flow must build for every host. Checked when CMake
 # configures, so a stray link or include fails the build at once.
 
-set(JEERBOX_TOOLKIT_PATTERN "^(Qt6::|SDL2|CURL::|jeerbox_(qt|sdl|curl|window_qt|window_win32)$)")
+set(JEERBOX_TOOLKIT_PATTERN
+    "^(Qt6::|SDL2|CURL::|jeerbox_(qt|sdl|curl|win32_app|window_qt|window_win32)$|(user32|gdi32|comctl32|shell32|wininet|winmm|ole32|mfplat|mfreadwrite|mfuuid)$)")
 set(JEERBOX_TOOLKIT_INCLUDE_PATTERN "#include[ \t]*[<\"](Q[A-Za-z]+|SDL[A-Za-z_0-9]*\\.h|curl/|windows\\.h|platform/(qt|sdl|curl|win32|posix)/)")
 
 # Every library `target` links, directly or not.

@@ -12,6 +12,7 @@ packages=(
   xvfb xauth xdotool xclip strace
   fonts-wine imagemagick librsvg2-bin
   dpkg-dev desktop-file-utils appstream groff-base bash-completion
+  g++-mingw-w64-x86-64-posix wine wine64 gstreamer1.0-plugins-base gstreamer1.0-plugins-good
 )
 [ $# -gt 0 ] && packages+=("$@")
 

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds and runs every test: the plain debug build first, then the same
 # suite under AddressSanitizer and UndefinedBehaviorSanitizer, then each
-# fuzz target over its corpus for a few seconds, then the lint.
+# fuzz target over its corpus for a few seconds, then the Windows build
+# under Wine (scripts/test-windows.sh), then the lint.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 jobs=$(nproc)
@@ -22,6 +23,8 @@ presets=("${1:-default}")
 [ "${1:-default}" = default ] && presets+=(asan fuzz)
 for p in "${presets[@]}"; do run_suite "$p"; done
 if [ "${1:-default}" = default ]; then
+  # Windows: cross-built, run under Wine; the default build's jeer packs.
+  scripts/test-windows.sh build/default/jeer
   echo "== lint"
   scripts/lint.sh build/default
 fi

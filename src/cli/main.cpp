@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
+#include "platform/process.h"
 
 namespace {
 
@@ -17,6 +18,8 @@ int Run(int argc, char** argv) {
                "jeer"};
   app.set_version_flag("--version", "jeer " JEERBOX_VERSION);
   app.require_subcommand(1);
+  // On Windows CLI11 would take "/dir" for an option; jeer has only "--" ones.
+  app.allow_windows_style_options(false);
   app.fallthrough(false);
   int exitCode = 0;
   jeerbox::AddComposeCommands(app, &exitCode);
@@ -43,6 +46,7 @@ int Run(int argc, char** argv) {
 // Nothing the commands do should throw; if something does (memory, say),
 // the user gets a line saying so rather than an abort.
 int main(int argc, char** argv) {
+  jeerbox::UseBinaryStandardOutput();  // the sentences' bytes, CR and LF as they are
   try {
     return Run(argc, argv);
   } catch (const std::bad_alloc&) {

@@ -28,4 +28,9 @@ class IProcess {
 // library defines it.
 std::string ExecutableDirectory();
 
+// Makes standard output carry bytes as they are written: a host's C library
+// may translate line ends there (Windows writes "\n" as "\r\n"). Programs
+// whose output is data (jeer) call it first. Each host library defines it.
+void UseBinaryStandardOutput();
+
 }  // namespace jeerbox

@@ -8,15 +8,18 @@
 #include <vector>
 
 #include "support/MSimpleIO.h"
-#include "support/text_lines.h"
 
 namespace jeerbox {
 namespace {
 
+// What Windows takes for blanks around names and values: white space, and
+// ^Z, the old end-of-file mark.
+constexpr char kBlanks[] = " \t\r\n\v\f\x1a";
+
 std::string TrimBlanks(const std::string& text) {
-  const size_t first = text.find_first_not_of(" \t");
+  const size_t first = text.find_first_not_of(kBlanks);
   if (first == std::string::npos) return std::string();
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 bool SameName(const std::string& a, const std::string& b) {
@@ -25,20 +28,27 @@ bool SameName(const std::string& a, const std::string& b) {
          });
 }
 
-// A file cut short right behind a CR still ends its last line there.
+// CR LF, a lone CR and a lone LF each end a line, as for Windows. A UTF-8
+// byte order mark in front is no part of the first line.
 std::vector<std::string> SplitLines(const std::string& text) {
-  const std::vector<std::string_view> views = SplitLfLines(text);
-  std::vector<std::string> lines(views.begin(), views.end());
-  if (!text.empty() && text.back() == '\r') lines.back().pop_back();
+  std::vector<std::string> lines;
+  size_t start = text.compare(0, 3, "\xef\xbb\xbf") == 0 ? 3 : 0;
+  while (start < text.size()) {
+    size_t end = text.find_first_of("\r\n", start);
+    if (end == std::string::npos) end = text.size();
+    lines.push_back(text.substr(start, end - start));
+    start = end + (text.compare(end, 2, "\r\n") == 0 ? 2 : 1);
+  }
   return lines;
 }
 
-// The section name of a head line, or false when the line is no head.
+// The section name of a head line, or false when the line is no head. The
+// name runs to the line's last "]"; a line without one is no head.
 bool SectionHead(const std::string& line, std::string* name) {
   const std::string trimmed = TrimBlanks(line);
-  if (trimmed.empty() || trimmed[0] != '[') return false;
-  const size_t close = trimmed.find(']');
-  *name = TrimBlanks(trimmed.substr(1, close == std::string::npos ? std::string::npos : close - 1));
+  const size_t close = trimmed.rfind(']');
+  if (trimmed.empty() || trimmed[0] != '[' || close == std::string::npos) return false;
+  *name = TrimBlanks(trimmed.substr(1, close - 1));
   return true;
 }
 
@@ -86,19 +96,22 @@ int CopyOut(const std::string& value, char* buffer, int size) {
 int PortableProfile::GetPrivateProfileStringA(const std::string& section, const std::string& key,
                                               const std::string& defaultValue, char* buffer, int size,
                                               const std::string& fileName) {
+  // Windows drops the default's trailing blanks, and the names' blanks.
+  const std::string fallback = defaultValue.substr(0, defaultValue.find_last_not_of(' ') + 1);
   try {
     std::string text;
-    if (CurrentFileSystem().ReadFile(fileName, &text, kMaxSettingsBytes) == FileStatus::kOk) {
-      const std::vector<std::string> lines = SplitLines(text);
-      const auto [begin, end] = FindSection(lines, section);
-      std::string name, value;
-      for (size_t i = begin; begin != std::string::npos && i < end; ++i)
-        if (Entry(lines[i], &name, &value) && SameName(name, key))
-          return CopyOut(Unquote(value), buffer, size);
+    if (CurrentFileSystem().ReadFile(fileName, &text, kMaxSettingsBytes) != FileStatus::kOk)
+      return CopyOut(fallback, buffer, size);
+    const std::vector<std::string> lines = SplitLines(text);
+    const auto [begin, end] = FindSection(lines, TrimBlanks(section));
+    std::string name, value;
+    for (size_t i = begin; begin != std::string::npos && i < end; ++i) {
+      if (!Entry(lines[i], &name, &value) || !SameName(name, TrimBlanks(key))) continue;
+      return CopyOut(Unquote(value.substr(0, value.find('\0'))), buffer, size);  // C strings end at NUL
     }
   } catch (...) {  // memory, say: what can't be read gives the default
   }
-  return CopyOut(defaultValue, buffer, size);
+  return CopyOut(fallback, buffer, size);
 }
 
 bool PortableProfile::WritePrivateProfileStringA(const std::string& section, const std::string& key,

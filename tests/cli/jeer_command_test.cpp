@@ -1,40 +1,16 @@
 // Runs the real jeer binary against program directories the tests write.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <array>
-#include <cstdio>
-#include <fstream>
 #include <set>
 #include <sstream>
 
 #include "helpers/scrambled_writer.h"
 #include "helpers/temp_dir.h"
 #include "text/CTextGenerator.h"
+#include "wordlist_test_util.h"
 
 namespace jeerbox::testing {
 namespace {
-
-struct JeerRun {
-  int exitCode;
-  std::string out;
-  std::string err;
-};
-
-JeerRun Jeer(const std::string& args) {
-  TempDir scratch;
-  const std::string command = std::string(JEER_PATH) + " " + args + " 2>" + scratch.Path() + "/err";
-  FILE* pipe = popen(command.c_str(), "r");
-  JeerRun run{-1, "", ""};
-  std::array<char, 4096> buffer{};
-  size_t n;
-  while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0) run.out.append(buffer.data(), n);
-  const int status = pclose(pipe);
-  run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  std::ifstream err(scratch.Path() + "/err");
-  run.err.assign(std::istreambuf_iterator<char>(err), std::istreambuf_iterator<char>());
-  return run;
-}
 
 std::vector<std::string> SplitLines(const std::string& text) {
   std::vector<std::string> lines;
@@ -75,9 +51,9 @@ class JeerTest : public ::testing::Test {
 };
 
 TEST_F(JeerTest, SayPrintsCountSentencesReproduciblyForASeed) {
-  const JeerRun a = Jeer("say --count 200 --seed 5" + Root());
-  const JeerRun b = Jeer("say --count 200 --seed 5" + Root());
-  const JeerRun c = Jeer("say --count 200 --seed 6" + Root());
+  const ToolRun a = RunJeer("say --count 200 --seed 5" + Root());
+  const ToolRun b = RunJeer("say --count 200 --seed 5" + Root());
+  const ToolRun c = RunJeer("say --count 200 --seed 6" + Root());
   ASSERT_EQ(a.exitCode, 0);
   EXPECT_EQ(a.out, b.out);
   EXPECT_NE(a.out, c.out);
@@ -95,41 +71,41 @@ TEST_F(JeerTest, SayPrintsCountSentencesReproduciblyForASeed) {
 }
 
 TEST_F(JeerTest, UnseededRunsDiffer) {
-  EXPECT_NE(Jeer("say --count 20" + Root()).out, Jeer("say --count 20" + Root()).out);
+  EXPECT_NE(RunJeer("say --count 20" + Root()).out, RunJeer("say --count 20" + Root()).out);
 }
 
 TEST_F(JeerTest, PickExpandsAndEscapesOnRequest) {
-  const JeerRun raw = Jeer("pick General-Curse" + Root());
+  const ToolRun raw = RunJeer("pick General-Curse" + Root());
   EXPECT_EQ(raw.out, "tab\there\r\n");
-  EXPECT_EQ(Jeer("pick General-Curse --escape" + Root()).out, "tab\\there\\r\n");
+  EXPECT_EQ(RunJeer("pick General-Curse --escape" + Root()).out, "tab\\there\\r\n");
   std::set<std::string> seen;
-  for (const std::string& line : SplitLines(Jeer("pick General-Insult -n 100" + Root()).out))
+  for (const std::string& line : SplitLines(RunJeer("pick General-Insult -n 100" + Root()).out))
     seen.insert(line);
   EXPECT_EQ(seen, (std::set<std::string>{"a damp sock", "a dusty sock", "a kipper"}));
 }
 
 TEST_F(JeerTest, LinesShowsTheStoredListUnexpanded) {
-  EXPECT_EQ(Jeer("lines General-Insult" + Root()).out, "a {damp/dusty} sock\na kipper\n");
-  EXPECT_EQ(Jeer("lines General-Exclaim" + Root()).out, "\n");
+  EXPECT_EQ(RunJeer("lines General-Insult" + Root()).out, "a {damp/dusty} sock\na kipper\n");
+  EXPECT_EQ(RunJeer("lines General-Exclaim" + Root()).out, "\n");
 }
 
 TEST_F(JeerTest, ARootWithoutSystemGivesTheFixedLineAndSaysWhereItLooked) {
   TempDir empty;
-  const JeerRun run = Jeer("pick Misc-Jeerbox-Noun --root " + empty.Path());
+  const ToolRun run = RunJeer("pick Misc-Jeerbox-Noun --root " + empty.Path());
   EXPECT_EQ(run.exitCode, 0);
   EXPECT_EQ(run.out, std::string(kMissingFilesText) + "\n");
   EXPECT_NE(run.err.find("no System/ in " + empty.Path()), std::string::npos) << run.err;
-  EXPECT_EQ(Jeer("say" + Root()).err, "") << "no hint where the word lists are";
+  EXPECT_EQ(RunJeer("say" + Root()).err, "") << "no hint where the word lists are";
 }
 
 TEST_F(JeerTest, UsageErrorsExitTwo) {
-  EXPECT_EQ(Jeer("").exitCode, 2);
-  EXPECT_EQ(Jeer("shout").exitCode, 2);
-  EXPECT_EQ(Jeer("say --count lots").exitCode, 2);
-  EXPECT_EQ(Jeer("say --seed -1").exitCode, 2);
-  EXPECT_EQ(Jeer("pick").exitCode, 2);
-  EXPECT_EQ(Jeer("--help").exitCode, 0);
-  EXPECT_NE(Jeer("say --help").out.find("--seed"), std::string::npos);
+  EXPECT_EQ(RunJeer("").exitCode, 2);
+  EXPECT_EQ(RunJeer("shout").exitCode, 2);
+  EXPECT_EQ(RunJeer("say --count lots").exitCode, 2);
+  EXPECT_EQ(RunJeer("say --seed -1").exitCode, 2);
+  EXPECT_EQ(RunJeer("pick").exitCode, 2);
+  EXPECT_EQ(RunJeer("--help").exitCode, 0);
+  EXPECT_NE(RunJeer("say --help").out.find("--seed"), std::string::npos);
 }
 
 }  // namespace

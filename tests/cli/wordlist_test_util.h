@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "cli/packer.h"
+#include "helpers/run_command.h"
 #include "support/globals.h"
 #include "text/CTextGenerator.h"
 #include "text/MSimpleCrypto.h"
@@ -40,11 +41,7 @@ inline std::vector<std::string> ReadList(const std::string& root, const std::str
   return lines;
 }
 
-struct ToolRun {
-  int exitCode;
-  std::string out;
-  std::string err;
-};
+using ToolRun = CommandRun;
 
 // Runs the jeer binary with `args`, capturing both streams.
 ToolRun RunJeer(const std::string& args);

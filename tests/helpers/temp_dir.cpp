@@ -1,16 +1,28 @@
 #include "helpers/temp_dir.h"
 
-#include <cstdlib>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <stdexcept>
 
 namespace jeerbox::testing {
 
+// A fresh name under the system's temporary directory; create_directory
+// refuses one that exists, so two tests never share.
 TempDir::TempDir() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "jeerbox-test-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("mkdtemp failed");
-  mPath = pattern;
+  const std::filesystem::path base = std::filesystem::temp_directory_path();
+  std::random_device device;
+  std::mt19937_64 random(device() ^
+                         static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count()));
+  for (int attempt = 0; attempt < 100; ++attempt) {
+    const std::filesystem::path path = base / ("jeerbox-test-" + std::to_string(random() % 1000000000));
+    if (std::filesystem::create_directory(path)) {
+      mPath = path.string();
+      return;
+    }
+  }
+  throw std::runtime_error("no temporary directory");
 }
 
 TempDir::~TempDir() {

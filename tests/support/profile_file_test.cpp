@@ -1,7 +1,6 @@
 #include "support/profile_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
@@ -117,17 +116,19 @@ TEST(ProfileOnDisk, WriteReplacesTheFileWholeAndLeavesNothingBehind) {
   testing::TempDir dir;
   dir.Write("UserInfo/Tallowick.cfg", "[TW]\nEnableFX=True\n; keep me\n");
   const std::string file = dir.Path() + "\\UserInfo\\Tallowick.cfg";
-  struct stat before {};
-  ASSERT_EQ(stat((dir.Path() + "/UserInfo/Tallowick.cfg").c_str(), &before), 0);
+  // A second name for the old file: a file rewritten in place would change
+  // under it too.
+  std::filesystem::create_hard_link(dir.Path() + "/UserInfo/Tallowick.cfg", dir.Path() + "/old.cfg");
   ASSERT_TRUE(PortableProfile().WritePrivateProfileStringA("TW", "EnableFX", "False", file));
   std::ifstream in(dir.Path() + "/UserInfo/Tallowick.cfg", std::ios::binary);
   std::stringstream text;
   text << in.rdbuf();
   EXPECT_EQ(text.str(), "[TW]\r\nEnableFX=False\r\n; keep me\r\n");
   // A new file took the old one's place: readers never see it half written.
-  struct stat after {};
-  ASSERT_EQ(stat((dir.Path() + "/UserInfo/Tallowick.cfg").c_str(), &after), 0);
-  EXPECT_NE(before.st_ino, after.st_ino);
+  std::ifstream old(dir.Path() + "/old.cfg", std::ios::binary);
+  std::stringstream oldText;
+  oldText << old.rdbuf();
+  EXPECT_EQ(oldText.str(), "[TW]\nEnableFX=True\n; keep me\n");
   int entries = 0;
   for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir.Path() + "/UserInfo"))
     ++entries;

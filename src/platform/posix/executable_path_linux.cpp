@@ -17,4 +17,7 @@ std::string ExecutableDirectory() {
   return slash == 0 ? std::string("/") : path.substr(0, slash);
 }
 
+// POSIX streams never translate.
+void UseBinaryStandardOutput() {}
+
 }  // namespace jeerbox
