@@ -6,6 +6,7 @@
 #include "helpers/memory_file_system.h"
 #include "helpers/scrambled_writer.h"
 #include "helpers/temp_dir.h"
+#include "platform/file_system.h"
 #include "wordlist_test_util.h"
 
 namespace jeerbox::testing {
@@ -196,7 +197,7 @@ TEST(PackWrite, AFailedRenameLeavesNoTemporaryFile) {
   files.AddUnreadable("sys\\Misc.002");
   std::ostringstream out, err;
   EXPECT_EQ(RunPack("src", "sys", out, err), 1);
-  EXPECT_EQ(err.str(), "jeer pack: sys/Misc.002: Permission denied\n");
+  EXPECT_EQ(err.str(), "jeer pack: " + NativePath("sys\\Misc.002") + ": Permission denied\n");
   std::vector<std::string> left;
   for (const auto& [path, bytes] : files.Files()) left.push_back(path);
   EXPECT_EQ(left, (std::vector<std::string>{"src\\Misc.001.txt", "src\\Misc.002.txt", "sys\\Misc.001"}));
@@ -218,7 +219,7 @@ TEST_F(PackCommand, AFailedPackLeavesTheTargetAsItWas) {
   const ToolRun run = RunJeer("pack " + Args());
   EXPECT_EQ(run.exitCode, 1);
   EXPECT_EQ(run.out, "");
-  EXPECT_NE(run.err.find(sources.Path() + "/General.001.txt:5: a data line can't begin with \"j\""),
+  EXPECT_NE(run.err.find(NativePath(sources.Path() + "\\General.001.txt") + ":5: a data line can't begin with \"j\""),
             std::string::npos)
       << run.err;
   EXPECT_NE(run.err.find("nothing written"), std::string::npos);

@@ -16,8 +16,11 @@ TEST(Win32FileSystem, ReadsBytesAsTheyAreThroughBackslashPaths) {
   IFileSystem& fs = HostFileSystem();
   std::string read;
   EXPECT_TRUE(fs.FileExists(dir.Path() + "\\System\\Misc.001"));
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\System\\Misc.001", &read), FileStatus::kOk);
+  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\System\\Misc.001", &read, bytes.size()), FileStatus::kOk);
   EXPECT_EQ(read, bytes);
+  // One byte over the limit is unreadable, not cut short.
+  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\System\\Misc.001", &read, bytes.size() - 1), FileStatus::kError);
+  EXPECT_EQ(read, "");
   EXPECT_EQ(NativePath(dir.Path() + "\\System"), dir.Path() + "\\System");
 }
 
@@ -27,12 +30,12 @@ TEST(Win32FileSystem, TellsMissingFromUnreadable) {
   IFileSystem& fs = HostFileSystem();
   std::string read = "stale";
   EXPECT_FALSE(fs.FileExists(dir.Path() + "\\nothing"));
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\nothing", &read), FileStatus::kNotFound);
+  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\nothing", &read, kMaxWordListBytes), FileStatus::kNotFound);
   EXPECT_EQ(read, "");
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\no\\such\\dir", &read), FileStatus::kNotFound);
+  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\no\\such\\dir", &read, kMaxWordListBytes), FileStatus::kNotFound);
   // A directory exists but can't be read as a file.
   EXPECT_TRUE(fs.FileExists(dir.Path() + "\\System"));
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\System", &read), FileStatus::kError);
+  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\System", &read, kMaxWordListBytes), FileStatus::kError);
   EXPECT_EQ(read, "");
 }
 
