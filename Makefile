@@ -17,14 +17,15 @@ build: deps
 run: build
 	@scripts/run.sh build/$(PRESET)
 
-# The whole suite, then the whole suite again under ASan + UBSan.
+# Every test: the plain build, the unit suites again under ASan + UBSan with
+# the fuzz corpora, the Windows build under Wine, the lint (scripts/test.sh).
 test: build
 	@scripts/test.sh $(PRESET)
 
 test-asan: deps
 	@scripts/test.sh asan
 
-# clang-format and clang-tidy over the whole tree (also part of make test).
+# clang-format and clang-tidy over the whole tree (make test tidies src/).
 lint: build
 	@scripts/lint.sh build/$(PRESET)
 
