@@ -28,11 +28,13 @@ bool SameName(const std::string& a, const std::string& b) {
          });
 }
 
+constexpr const char* kUtf8Bom = "\xef\xbb\xbf";
+
 // CR LF, a lone CR and a lone LF each end a line, as for Windows. A UTF-8
 // byte order mark in front is no part of the first line.
 std::vector<std::string> SplitLines(const std::string& text) {
   std::vector<std::string> lines;
-  size_t start = text.compare(0, 3, "\xef\xbb\xbf") == 0 ? 3 : 0;
+  size_t start = text.compare(0, 3, kUtf8Bom) == 0 ? 3 : 0;
   while (start < text.size()) {
     size_t end = text.find_first_of("\r\n", start);
     if (end == std::string::npos) end = text.size();
@@ -138,7 +140,9 @@ bool PortableProfile::WritePrivateProfileStringA(const std::string& section, con
       lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(insert), entry);
     }
   }
-  std::string out;
+  // A byte order mark stays in front: dropped, it would let a second one
+  // behind it start the first line, and change what every line reads as.
+  std::string out = text.compare(0, 3, kUtf8Bom) == 0 ? kUtf8Bom : "";
   for (const std::string& line : lines) out += line + "\r\n";
   return ReplaceWholeFile(fileName, out);
 }
