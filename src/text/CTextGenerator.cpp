@@ -48,7 +48,8 @@ LineList CTextGenerator::GetCacheItem(const std::string& requestedId) {
   const std::string section = SimpleCrypt(requestedId);
   LineList lines;
   for (const auto& file : FamilyOf(requestedId))
-    if (IsFileAllowed(*file)) AppendDataLines(CTextUtils::ReadSectionFromText(section, file->bytes), &lines);
+    if (IsFileAllowed(*file))
+      AppendDataLines(SectionTextAt(file->bytes, file->heads.Find(section), section.size()), &lines);
   lines.MarkNothingIfEmpty();
   return lines;
 }
@@ -66,12 +67,14 @@ const CTextGenerator::Family& CTextGenerator::FamilyOf(const std::string& key) {
   auto found = mFamilies.find(name);
   if (found != mFamilies.end()) return found->second;
   Family& family = mFamilies[name];
+  const std::string storedName = SimpleCrypt(name);
   size_t familyBytes = 0;
   for (int n = 1; n <= kMaxFileNumber; ++n) {
     auto file = std::make_unique<TextFile>();
     const size_t limit = std::min(kMaxWordListBytes, kMaxFamilyBytes - familyBytes);
     if (!ReadTextFile(BuildTextFileName(key, n), limit, file.get())) break;
     familyBytes += file->bytes.size();
+    file->heads = HeadIndex(file->bytes, storedName);
     family.push_back(std::move(file));
   }
   return family;
