@@ -47,9 +47,14 @@ std::string CTextGenerator::PickText(const std::string& key) {
 LineList CTextGenerator::GetCacheItem(const std::string& requestedId) {
   const std::string section = SimpleCrypt(requestedId);
   LineList lines;
-  for (const auto& file : FamilyOf(requestedId))
-    if (IsFileAllowed(*file))
-      AppendDataLines(SectionTextAt(file->bytes, file->heads.Find(section), section.size()), &lines);
+  for (const auto& file : FamilyOf(requestedId)) {
+    if (!IsFileAllowed(*file)) continue;
+    // The section begins behind the character that follows the key (the
+    // "]" of its head, not tested).
+    const size_t match = file->heads.Find(section);
+    if (match != std::string::npos && match + section.size() + 1 < file->bytes.size())
+      lines.AppendSectionOf(std::string_view(file->bytes).substr(match + section.size() + 1));
+  }
   lines.MarkNothingIfEmpty();
   return lines;
 }

@@ -90,15 +90,12 @@ std::string CTextUtils::ReadSectionFromFile(const std::string& sectionName, cons
   return std::string(ReadSectionFromText(sectionName, text));
 }
 
-std::string_view CTextUtils::ReadSectionFromText(std::string_view sectionName, std::string_view fileText) {
-  return SectionTextAt(fileText, FindBytes(fileText, sectionName), sectionName.size());
-}
-
 // The section starts behind the character that follows the match (the "]"
 // of its head, not tested) and ends with the CR of the next CR LF "[".
-std::string_view SectionTextAt(std::string_view fileText, size_t match, size_t keySize) {
+std::string_view CTextUtils::ReadSectionFromText(std::string_view sectionName, std::string_view fileText) {
+  const size_t match = FindBytes(fileText, sectionName);
   if (match == std::string_view::npos) return {};
-  const size_t start = match + keySize + 1;
+  const size_t start = match + sectionName.size() + 1;
   if (start >= fileText.size()) return {};
   const std::string_view rest = fileText.substr(start);
   const size_t end = FindHeadLineEnd(rest);

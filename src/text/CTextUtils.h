@@ -39,10 +39,6 @@ class CTextUtils {
   static bool ParseInlineToken(std::string* text);
 };
 
-// The raw text of the section whose stored key of `keySize` bytes was found
-// at `match` (npos: not found), or "".
-std::string_view SectionTextAt(std::string_view fileText, size_t match, size_t keySize);
-
 // Every occurrence of `from` replaced by `to`, left to right, without
 // rescanning what was inserted; the result is cut at `maxLength`.
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to,

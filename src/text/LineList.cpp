@@ -6,27 +6,28 @@
 
 namespace jeerbox {
 
-// The hot loop of a sentence: every section of the family passes here once
-// per generator.
-size_t LineList::CountDataLines(std::string_view text, std::vector<Checkpoint>* checkpoints) {
+void LineList::AppendSection(std::string_view sectionText) { Append(sectionText, false); }
+
+void LineList::AppendSectionOf(std::string_view rest) { Append(rest, true); }
+
+// Every section of the family passes here once per generator: the lines are
+// counted, and a checkpoint noted now and then, in the one sweep that also
+// finds where a section ends.
+void LineList::Append(std::string_view text, bool toNextHead) {
+  if (text.empty() || mNothing) return;
+  Segment segment;
+  segment.first = mCount;
   size_t count = 0;
-  ForEachCrLfPiece(text, [&](std::string_view piece) {
+  auto note = [&](std::string_view piece) {
     if (!IsDataPiece(piece)) return true;
     const auto offset = static_cast<size_t>(piece.data() - text.data());
-    if (count % kCheckpointLines == 0 || offset - checkpoints->back().offset > kCheckpointBytes)
-      checkpoints->push_back({static_cast<uint32_t>(offset), static_cast<uint32_t>(count)});
+    if (count % kCheckpointLines == 0 || offset - segment.checkpoints.back().offset > kCheckpointBytes)
+      segment.checkpoints.push_back({static_cast<uint32_t>(offset), static_cast<uint32_t>(count)});
     ++count;
     return true;
-  });
-  return count;
-}
-
-void LineList::AppendSection(std::string_view sectionText) {
-  if (sectionText.empty() || mNothing) return;
-  Segment segment;
-  segment.text = sectionText;
-  segment.first = mCount;
-  const size_t count = CountDataLines(sectionText, &segment.checkpoints);
+  };
+  segment.text = toNextHead ? text.substr(0, ForEachSectionPiece(text, note)) : text;
+  if (!toNextHead) ForEachCrLfPiece(text, note);
   if (count == 0) return;
   mCount += count;
   mSegments.push_back(std::move(segment));

@@ -16,6 +16,9 @@ class LineList {
  public:
   // Views point into the section texts, which must outlive the list.
   void AppendSection(std::string_view sectionText);
+  // The same for the section whose text begins `rest` and runs up to the CR
+  // of the first CR LF "[" in it, or to its end.
+  void AppendSectionOf(std::string_view rest);
   // Ends an empty list with the one empty line that stands for "nothing".
   void MarkNothingIfEmpty();
 
@@ -64,7 +67,7 @@ class LineList {
     std::vector<Checkpoint> checkpoints;
   };
 
-  static size_t CountDataLines(std::string_view text, std::vector<Checkpoint>* checkpoints);
+  void Append(std::string_view text, bool toNextHead);
 
   std::vector<Segment> mSegments;
   size_t mCount = 0;
