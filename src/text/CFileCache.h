@@ -63,10 +63,17 @@ class CFileCache {
   const Value& FetchFromCache(const std::string& key) const { return mItems.at(key); }
 
   // The delimiters take part, so a key that is only a part of a listed key
-  // isn't taken for listed.
+  // isn't taken for listed: the key must stand between two of them, or at
+  // an end of the list. Searched in place, since every pick asks.
   bool IsKeyListed(const std::string& key) const {
-    const std::string list = mDelimiter + mKeyList + mDelimiter;
-    return list.find(mDelimiter + key + mDelimiter) != std::string::npos;
+    const size_t d = mDelimiter.size();
+    for (size_t at = mKeyList.find(key); at != std::string::npos; at = mKeyList.find(key, at + 1)) {
+      const size_t end = at + key.size();
+      if ((at == 0 || (at >= d && mKeyList.compare(at - d, d, mDelimiter) == 0)) &&
+          (end == mKeyList.size() || mKeyList.compare(end, d, mDelimiter) == 0))
+        return true;
+    }
+    return false;
   }
 
   std::unordered_map<std::string, Value> mItems;

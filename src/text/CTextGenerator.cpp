@@ -38,7 +38,7 @@ std::string CTextGenerator::PickText(const std::string& key) {
   std::string text = SimpleCrypt(line.substr(0, kMaxTextLength));
   text = CTextUtils::ParseGameTokens(std::move(text), mCityName, mPlayerName, mWeaponName, mRatingName);
   text = CTextUtils::ParseInlineTokens(std::move(text));
-  return Trim(text);
+  return Trim(std::move(text));
 }
 
 // Lines are appended as stored: neither trimmed nor cut. A key found in no
@@ -67,6 +67,16 @@ std::string CTextGenerator::BuildTextFileName(const std::string& key, int number
   return SystemDirectory() + "\\" + NumberedFileName(KeyFamily(key), number);
 }
 
+namespace {
+
+// The files of a family differ only in the last three digits of the name.
+void SetFileNumber(std::string* fileName, int number) {
+  for (size_t i = 1; i <= 3; ++i, number /= 10)
+    (*fileName)[fileName->size() - i] = static_cast<char>('0' + number % 10);
+}
+
+}  // namespace
+
 const CTextGenerator::Family& CTextGenerator::FamilyOf(const std::string& key) {
   const std::string name = KeyFamily(key);
   auto found = mFamilies.find(name);
@@ -74,10 +84,12 @@ const CTextGenerator::Family& CTextGenerator::FamilyOf(const std::string& key) {
   Family& family = mFamilies[name];
   const std::string storedName = SimpleCrypt(name);
   size_t familyBytes = 0;
+  std::string fileName = BuildTextFileName(key, 1);
   for (int n = 1; n <= kMaxFileNumber; ++n) {
     auto file = std::make_unique<TextFile>();
     const size_t limit = std::min(kMaxWordListBytes, kMaxFamilyBytes - familyBytes);
-    if (!ReadTextFile(BuildTextFileName(key, n), limit, file.get())) break;
+    SetFileNumber(&fileName, n);
+    if (!ReadTextFile(fileName, limit, file.get())) break;
     familyBytes += file->bytes.size();
     file->heads = HeadIndex(file->bytes, storedName);
     family.push_back(std::move(file));

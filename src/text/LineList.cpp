@@ -15,14 +15,19 @@ void LineList::AppendSectionOf(std::string_view rest) { Append(rest, true); }
 // finds where a section ends.
 void LineList::Append(std::string_view text, bool toNextHead) {
   if (text.empty() || mNothing) return;
+  if (mCheckpoints.empty()) mCheckpoints.reserve(16);
   Segment segment;
   segment.first = mCount;
+  segment.checkpoints = mCheckpoints.size();
   size_t count = 0;
+  size_t last = 0;  // offset of the last checkpoint
   auto note = [&](std::string_view piece) {
     if (!IsDataPiece(piece)) return true;
     const auto offset = static_cast<size_t>(piece.data() - text.data());
-    if (count % kCheckpointLines == 0 || offset - segment.checkpoints.back().offset > kCheckpointBytes)
-      segment.checkpoints.push_back({static_cast<uint32_t>(offset), static_cast<uint32_t>(count)});
+    if (count % kCheckpointLines == 0 || offset - last > kCheckpointBytes) {
+      mCheckpoints.push_back({static_cast<uint32_t>(offset), static_cast<uint32_t>(count)});
+      last = offset;
+    }
     ++count;
     return true;
   };
@@ -30,7 +35,7 @@ void LineList::Append(std::string_view text, bool toNextHead) {
   if (!toNextHead) ForEachCrLfPiece(text, note);
   if (count == 0) return;
   mCount += count;
-  mSegments.push_back(std::move(segment));
+  mSegments.push_back(segment);
 }
 
 void LineList::MarkNothingIfEmpty() {
@@ -45,9 +50,12 @@ std::string_view LineList::operator[](size_t index) const {
   while (mSegments[s].first > index) --s;
   const Segment& segment = mSegments[s];
   const size_t local = index - segment.first;
-  const Checkpoint& point = *std::prev(
-      std::upper_bound(segment.checkpoints.begin(), segment.checkpoints.end(), local,
-                       [](size_t line, const Checkpoint& checkpoint) { return line < checkpoint.before; }));
+  const auto begin = mCheckpoints.begin() + static_cast<std::ptrdiff_t>(segment.checkpoints);
+  const auto end = s + 1 < mSegments.size()
+                       ? mCheckpoints.begin() + static_cast<std::ptrdiff_t>(mSegments[s + 1].checkpoints)
+                       : mCheckpoints.end();
+  const Checkpoint& point = *std::prev(std::upper_bound(
+      begin, end, local, [](size_t line, const Checkpoint& checkpoint) { return line < checkpoint.before; }));
   size_t skip = local - point.before;
   std::string_view found;
   ForEachCrLfPiece(segment.text.substr(point.offset), [&](std::string_view piece) {

@@ -63,13 +63,14 @@ class LineList {
   };
   struct Segment {
     std::string_view text;
-    size_t first = 0;  // list index of its first data line
-    std::vector<Checkpoint> checkpoints;
+    size_t first = 0;        // list index of its first data line
+    size_t checkpoints = 0;  // index of its first checkpoint in mCheckpoints
   };
 
   void Append(std::string_view text, bool toNextHead);
 
   std::vector<Segment> mSegments;
+  std::vector<Checkpoint> mCheckpoints;  // of all segments, in order
   size_t mCount = 0;
   bool mNothing = false;
 };
