@@ -15,7 +15,10 @@ void LineList::AppendSectionOf(std::string_view rest) { Append(rest, true); }
 // finds where a section ends.
 void LineList::Append(std::string_view text, bool toNextHead) {
   if (text.empty() || mNothing) return;
-  if (mCheckpoints.empty()) mCheckpoints.reserve(16);
+  if (mSegments.empty()) {  // a key has a section in a file or two, a few dozen checkpoints
+    mSegments.reserve(4);
+    mCheckpoints.reserve(32);
+  }
   Segment segment;
   segment.first = mCount;
   segment.checkpoints = mCheckpoints.size();

@@ -8,7 +8,9 @@
 namespace jeerbox {
 
 HeadIndex::HeadIndex(std::string_view bytes, std::string storedPrefix)
-    : mBytes(bytes), mPrefix(std::move(storedPrefix)) {}
+    : mBytes(bytes), mPrefix(std::move(storedPrefix)) {
+  mPlaces.reserve(16);  // a head for each key, and a few look-alikes
+}
 
 bool HeadIndex::KeyAt(size_t place, std::string_view storedKey) const {
   return mBytes.compare(place, storedKey.size(), storedKey) == 0;
