@@ -25,7 +25,7 @@ class CFileCache {
   // The value of the item, from the provider on a miss. The reference holds
   // until the next GetItem.
   const Value& GetItem(const std::string& itemId, IItemCacheProvider<Value>& provider) {
-    const std::string key = MakeKey(itemId);
+    const std::string& key = MakeKey(itemId);
     if (!IsCached(key)) AddToCache(key, provider.GetCacheItem(itemId));
     NoteKey(key);
     TrimCache();
@@ -38,8 +38,14 @@ class CFileCache {
  private:
   bool IsCached(const std::string& key) const { return CollectionHasKey(mItems, key); }
 
-  // Directory and extension take no part in the key.
-  static std::string MakeKey(const std::string& itemId) { return BaseName(itemId); }
+  // Directory and extension take no part in the key. A text key has
+  // neither and is its own key, which spares a copy on every pick; the
+  // reference holds until the next call.
+  const std::string& MakeKey(const std::string& itemId) {
+    if (itemId.find('\\') == std::string::npos && itemId.find('.') == std::string::npos) return itemId;
+    mMadeKey = BaseName(itemId);
+    return mMadeKey;
+  }
 
   void AddToCache(const std::string& key, Value value) {
     if (!IsCached(key)) mItems.emplace(key, std::move(value));
@@ -80,6 +86,7 @@ class CFileCache {
   int mMaxCacheSize = 0;
   std::string mKeyList;
   std::string mDelimiter = "~";
+  std::string mMadeKey;  // the last key MakeKey had to make
 };
 
 }  // namespace jeerbox

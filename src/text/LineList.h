@@ -55,7 +55,7 @@ class LineList {
   // `before` of the section; one every kCheckpointLines lines, and one at
   // each line further than kCheckpointBytes behind the last, so that no
   // pick walks far whatever stands between the lines.
-  static constexpr size_t kCheckpointLines = 32;
+  static constexpr size_t kCheckpointLines = 16;
   static constexpr size_t kCheckpointBytes = 4096;
   struct Checkpoint {
     uint32_t offset;
