@@ -26,6 +26,8 @@ class IFileSystem {
   // Reads the whole file as bytes into *contents (cleared on failure). Only
   // a regular file of at most `maxBytes` is read: a pipe, socket, device or
   // directory, a larger file, or one that can't be held in memory is kError.
+  // (On POSIX a device that can be read at an offset and answers the first
+  // read with fewer bytes than asked passes for a file of those bytes.)
   // Never blocks on what it opens, and never throws.
   virtual FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) = 0;
 

@@ -83,13 +83,25 @@ std::string ChangeExtension(const std::string& path, const std::string& extensio
   return result;
 }
 
-std::string BaseName(const std::string& path) { return ChangeExtension(StripPath(path), ""); }
+std::string BaseName(const std::string& path) {
+  // A text key: nothing to strip.
+  if (path.find('\\') == std::string::npos && path.find('.') == std::string::npos) return path;
+  return ChangeExtension(StripPath(path), "");
+}
 
 std::string Trim(const std::string& text) {
   const size_t first = text.find_first_not_of(' ');
   if (first == std::string::npos) return std::string();
   const size_t last = text.find_last_not_of(' ');
   return text.substr(first, last - first + 1);
+}
+
+std::string Trim(std::string&& text) {
+  const size_t first = text.find_first_not_of(' ');
+  if (first == std::string::npos) return std::string();
+  text.erase(text.find_last_not_of(' ') + 1);
+  text.erase(0, first);
+  return std::move(text);
 }
 
 }  // namespace jeerbox

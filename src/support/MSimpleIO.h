@@ -58,5 +58,7 @@ std::string BaseName(const std::string& path);
 
 // Removes blanks (0x20) from both ends, and nothing else.
 std::string Trim(const std::string& text);
+// The same on a text the caller gives up: trimmed where it lies.
+std::string Trim(std::string&& text);
 
 }  // namespace jeerbox

@@ -25,7 +25,7 @@ class CFileCache {
   // The value of the item, from the provider on a miss. The reference holds
   // until the next GetItem.
   const Value& GetItem(const std::string& itemId, IItemCacheProvider<Value>& provider) {
-    const std::string key = MakeKey(itemId);
+    const std::string& key = MakeKey(itemId);
     if (!IsCached(key)) AddToCache(key, provider.GetCacheItem(itemId));
     NoteKey(key);
     TrimCache();
@@ -38,8 +38,14 @@ class CFileCache {
  private:
   bool IsCached(const std::string& key) const { return CollectionHasKey(mItems, key); }
 
-  // Directory and extension take no part in the key.
-  static std::string MakeKey(const std::string& itemId) { return BaseName(itemId); }
+  // Directory and extension take no part in the key. A text key has
+  // neither and is its own key, which spares a copy on every pick; the
+  // reference holds until the next call.
+  const std::string& MakeKey(const std::string& itemId) {
+    if (itemId.find('\\') == std::string::npos && itemId.find('.') == std::string::npos) return itemId;
+    mMadeKey = BaseName(itemId);
+    return mMadeKey;
+  }
 
   void AddToCache(const std::string& key, Value value) {
     if (!IsCached(key)) mItems.emplace(key, std::move(value));
@@ -63,16 +69,24 @@ class CFileCache {
   const Value& FetchFromCache(const std::string& key) const { return mItems.at(key); }
 
   // The delimiters take part, so a key that is only a part of a listed key
-  // isn't taken for listed.
+  // isn't taken for listed: the key must stand between two of them, or at
+  // an end of the list. Searched in place, since every pick asks.
   bool IsKeyListed(const std::string& key) const {
-    const std::string list = mDelimiter + mKeyList + mDelimiter;
-    return list.find(mDelimiter + key + mDelimiter) != std::string::npos;
+    const size_t d = mDelimiter.size();
+    for (size_t at = mKeyList.find(key); at != std::string::npos; at = mKeyList.find(key, at + 1)) {
+      const size_t end = at + key.size();
+      if ((at == 0 || (at >= d && mKeyList.compare(at - d, d, mDelimiter) == 0)) &&
+          (end == mKeyList.size() || mKeyList.compare(end, d, mDelimiter) == 0))
+        return true;
+    }
+    return false;
   }
 
   std::unordered_map<std::string, Value> mItems;
   int mMaxCacheSize = 0;
   std::string mKeyList;
   std::string mDelimiter = "~";
+  std::string mMadeKey;  // the last key MakeKey had to make
 };
 
 }  // namespace jeerbox

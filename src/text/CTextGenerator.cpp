@@ -38,7 +38,7 @@ std::string CTextGenerator::PickText(const std::string& key) {
   std::string text = SimpleCrypt(line.substr(0, kMaxTextLength));
   text = CTextUtils::ParseGameTokens(std::move(text), mCityName, mPlayerName, mWeaponName, mRatingName);
   text = CTextUtils::ParseInlineTokens(std::move(text));
-  return Trim(text);
+  return Trim(std::move(text));
 }
 
 // Lines are appended as stored: neither trimmed nor cut. A key found in no
@@ -47,8 +47,14 @@ std::string CTextGenerator::PickText(const std::string& key) {
 LineList CTextGenerator::GetCacheItem(const std::string& requestedId) {
   const std::string section = SimpleCrypt(requestedId);
   LineList lines;
-  for (const auto& file : FamilyOf(requestedId))
-    if (IsFileAllowed(*file)) AppendDataLines(CTextUtils::ReadSectionFromText(section, file->bytes), &lines);
+  for (const auto& file : FamilyOf(requestedId)) {
+    if (!IsFileAllowed(*file)) continue;
+    // The section begins behind the character that follows the key (the
+    // "]" of its head, not tested).
+    const size_t match = file->heads.Find(section);
+    if (match != std::string::npos && match + section.size() + 1 < file->bytes.size())
+      lines.AppendSectionOf(std::string_view(file->bytes).substr(match + section.size() + 1));
+  }
   lines.MarkNothingIfEmpty();
   return lines;
 }
@@ -61,17 +67,31 @@ std::string CTextGenerator::BuildTextFileName(const std::string& key, int number
   return SystemDirectory() + "\\" + NumberedFileName(KeyFamily(key), number);
 }
 
+namespace {
+
+// The files of a family differ only in the last three digits of the name.
+void SetFileNumber(std::string* fileName, int number) {
+  for (size_t i = 1; i <= 3; ++i, number /= 10)
+    (*fileName)[fileName->size() - i] = static_cast<char>('0' + number % 10);
+}
+
+}  // namespace
+
 const CTextGenerator::Family& CTextGenerator::FamilyOf(const std::string& key) {
   const std::string name = KeyFamily(key);
   auto found = mFamilies.find(name);
   if (found != mFamilies.end()) return found->second;
   Family& family = mFamilies[name];
+  const std::string storedName = SimpleCrypt(name);
   size_t familyBytes = 0;
+  std::string fileName = BuildTextFileName(key, 1);
   for (int n = 1; n <= kMaxFileNumber; ++n) {
     auto file = std::make_unique<TextFile>();
     const size_t limit = std::min(kMaxWordListBytes, kMaxFamilyBytes - familyBytes);
-    if (!ReadTextFile(BuildTextFileName(key, n), limit, file.get())) break;
+    SetFileNumber(&fileName, n);
+    if (!ReadTextFile(fileName, limit, file.get())) break;
     familyBytes += file->bytes.size();
+    file->heads = HeadIndex(file->bytes, storedName);
     family.push_back(std::move(file));
   }
   return family;
@@ -86,7 +106,10 @@ bool CTextGenerator::ReadTextFile(const std::string& fileName, size_t maxBytes, 
   if (status == FileStatus::kNotFound || (status == FileStatus::kError && !fs.FileExists(fileName)))
     return false;
   if (status != FileStatus::kOk) file->bytes.clear();
-  file->allowed = !HoldsMarker(file->bytes) || gAllowMarkedText;
+  // While marked text is allowed, as it always is in the program, whether
+  // the file is marked changes nothing, and the sweep for the marker is
+  // spared.
+  file->allowed = gAllowMarkedText || !HoldsMarker(file->bytes);
   return true;
 }
 

@@ -13,6 +13,7 @@
 #include "text/CGame.h"
 #include "text/IItemCacheProvider.h"
 #include "text/LineList.h"
+#include "text/head_index.h"
 #include "text/shorthand.h"
 #include "text/wordlist_format.h"
 
@@ -45,11 +46,13 @@ class CTextGenerator : public IItemCacheProvider<LineList> {
   static std::string BuildTextFileName(const std::string& key, int number);
 
  private:
-  // One numbered file as read for this generator: its bytes, and whether
-  // it may be used (a marked file only while marked text is allowed).
+  // One numbered file as read for this generator: its bytes, whether it may
+  // be used (a marked file only while marked text is allowed), and where
+  // its family's keys can start.
   struct TextFile {
     bool allowed = false;
     std::string bytes;
+    HeadIndex heads;
   };
   using Family = std::vector<std::unique_ptr<TextFile>>;
 

@@ -6,30 +6,39 @@
 
 namespace jeerbox {
 
-// The hot loop of a sentence: every section of the family passes here once
-// per generator.
-size_t LineList::CountDataLines(std::string_view text, std::vector<Checkpoint>* checkpoints) {
+void LineList::AppendSection(std::string_view sectionText) { Append(sectionText, false); }
+
+void LineList::AppendSectionOf(std::string_view rest) { Append(rest, true); }
+
+// Every section of the family passes here once per generator: the lines are
+// counted, and a checkpoint noted now and then, in the one sweep that also
+// finds where a section ends.
+void LineList::Append(std::string_view text, bool toNextHead) {
+  if (text.empty() || mNothing) return;
+  if (mSegments.empty()) {  // a key has a section in a file or two, a few dozen checkpoints
+    mSegments.reserve(4);
+    mCheckpoints.reserve(32);
+  }
+  Segment segment;
+  segment.first = mCount;
+  segment.checkpoints = mCheckpoints.size();
   size_t count = 0;
-  ForEachCrLfPiece(text, [&](std::string_view piece) {
+  size_t last = 0;  // offset of the last checkpoint
+  auto note = [&](std::string_view piece) {
     if (!IsDataPiece(piece)) return true;
     const auto offset = static_cast<size_t>(piece.data() - text.data());
-    if (count % kCheckpointLines == 0 || offset - checkpoints->back().offset > kCheckpointBytes)
-      checkpoints->push_back({static_cast<uint32_t>(offset), static_cast<uint32_t>(count)});
+    if (count % kCheckpointLines == 0 || offset - last > kCheckpointBytes) {
+      mCheckpoints.push_back({static_cast<uint32_t>(offset), static_cast<uint32_t>(count)});
+      last = offset;
+    }
     ++count;
     return true;
-  });
-  return count;
-}
-
-void LineList::AppendSection(std::string_view sectionText) {
-  if (sectionText.empty() || mNothing) return;
-  Segment segment;
-  segment.text = sectionText;
-  segment.first = mCount;
-  const size_t count = CountDataLines(sectionText, &segment.checkpoints);
+  };
+  segment.text = toNextHead ? text.substr(0, ForEachSectionPiece(text, note)) : text;
+  if (!toNextHead) ForEachCrLfPiece(text, note);
   if (count == 0) return;
   mCount += count;
-  mSegments.push_back(std::move(segment));
+  mSegments.push_back(segment);
 }
 
 void LineList::MarkNothingIfEmpty() {
@@ -44,9 +53,12 @@ std::string_view LineList::operator[](size_t index) const {
   while (mSegments[s].first > index) --s;
   const Segment& segment = mSegments[s];
   const size_t local = index - segment.first;
-  const Checkpoint& point = *std::prev(
-      std::upper_bound(segment.checkpoints.begin(), segment.checkpoints.end(), local,
-                       [](size_t line, const Checkpoint& checkpoint) { return line < checkpoint.before; }));
+  const auto begin = mCheckpoints.begin() + static_cast<std::ptrdiff_t>(segment.checkpoints);
+  const auto end = s + 1 < mSegments.size()
+                       ? mCheckpoints.begin() + static_cast<std::ptrdiff_t>(mSegments[s + 1].checkpoints)
+                       : mCheckpoints.end();
+  const Checkpoint& point = *std::prev(std::upper_bound(
+      begin, end, local, [](size_t line, const Checkpoint& checkpoint) { return line < checkpoint.before; }));
   size_t skip = local - point.before;
   std::string_view found;
   ForEachCrLfPiece(segment.text.substr(point.offset), [&](std::string_view piece) {

@@ -16,6 +16,9 @@ class LineList {
  public:
   // Views point into the section texts, which must outlive the list.
   void AppendSection(std::string_view sectionText);
+  // The same for the section whose text begins `rest` and runs up to the CR
+  // of the first CR LF "[" in it, or to its end.
+  void AppendSectionOf(std::string_view rest);
   // Ends an empty list with the one empty line that stands for "nothing".
   void MarkNothingIfEmpty();
 
@@ -52,7 +55,7 @@ class LineList {
   // `before` of the section; one every kCheckpointLines lines, and one at
   // each line further than kCheckpointBytes behind the last, so that no
   // pick walks far whatever stands between the lines.
-  static constexpr size_t kCheckpointLines = 32;
+  static constexpr size_t kCheckpointLines = 16;
   static constexpr size_t kCheckpointBytes = 4096;
   struct Checkpoint {
     uint32_t offset;
@@ -60,13 +63,14 @@ class LineList {
   };
   struct Segment {
     std::string_view text;
-    size_t first = 0;  // list index of its first data line
-    std::vector<Checkpoint> checkpoints;
+    size_t first = 0;        // list index of its first data line
+    size_t checkpoints = 0;  // index of its first checkpoint in mCheckpoints
   };
 
-  static size_t CountDataLines(std::string_view text, std::vector<Checkpoint>* checkpoints);
+  void Append(std::string_view text, bool toNextHead);
 
   std::vector<Segment> mSegments;
+  std::vector<Checkpoint> mCheckpoints;  // of all segments, in order
   size_t mCount = 0;
   bool mNothing = false;
 };

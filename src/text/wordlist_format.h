@@ -3,6 +3,7 @@
 // the program asks for. The reader and jeer's pack, unpack and check use it.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,36 +18,75 @@ namespace jeerbox {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
+// Calls atLineFeed(position) for each LF of `text`, in order, until it
+// returns false; false when it was stopped. A sentence passes every section
+// of its word-list family through here, so this is the hot loop.
+template <typename AtLineFeed>
+bool ForEachLineFeed(std::string_view text, AtLineFeed&& atLineFeed) {
+  const char* const data = text.data();
+  const size_t size = text.size();
+  size_t i = 0;
+#if defined(__SSE2__)
+  // Sixty-four bytes at a time: lines run to a hundred bytes and more, so
+  // most blocks hold no LF and cost one test.
+  const __m128i lineFeed = _mm_set1_epi8('\n');
+  auto feeds = [&](size_t at) {
+    return _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(data + at)), lineFeed);
+  };
+  auto bits = [](__m128i found, int shift) {
+    return static_cast<uint64_t>(static_cast<unsigned>(_mm_movemask_epi8(found))) << shift;
+  };
+  for (; i + 64 <= size; i += 64) {
+    const __m128i a = feeds(i), b = feeds(i + 16), c = feeds(i + 32), d = feeds(i + 48);
+    if (_mm_movemask_epi8(_mm_or_si128(_mm_or_si128(a, b), _mm_or_si128(c, d))) == 0) continue;
+    for (uint64_t mask = bits(a, 0) | bits(b, 16) | bits(c, 32) | bits(d, 48); mask != 0; mask &= mask - 1)
+      if (!atLineFeed(i + static_cast<size_t>(__builtin_ctzll(mask)))) return false;
+  }
+#endif
+  for (; i < size; ++i)
+    if (data[i] == '\n' && !atLineFeed(i)) return false;
+  return true;
+}
+
 // Calls piece(view) for each piece of `text` split at CR LF, in order, the
 // last piece (behind the last CR LF) included, as a plain split would.
-// piece returns false to stop early. A sentence splits every section of its
-// word-list family, thousands of short lines, so this is the hot loop.
+// piece returns false to stop early.
 template <typename Piece>
 void ForEachCrLfPiece(std::string_view text, Piece&& piece) {
   const char* const data = text.data();
-  const size_t size = text.size();
   size_t start = 0;
-  size_t i = 0;
   // A LF preceded by a CR ends a piece. CR LF can't overlap itself, so
   // every such LF is one split point.
-  auto atLineFeed = [&](size_t lf) {
+  const bool whole = ForEachLineFeed(text, [&](size_t lf) {
     if (lf == start || data[lf - 1] != '\r') return true;
     const bool more = piece(std::string_view(data + start, lf - 1 - start));
     start = lf + 1;
     return more;
-  };
-#if defined(__SSE2__)
-  const __m128i lineFeed = _mm_set1_epi8('\n');
-  for (; i + 16 <= size; i += 16) {
-    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(data + i));
-    auto mask = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(block, lineFeed)));
-    for (; mask != 0; mask &= mask - 1)
-      if (!atLineFeed(i + static_cast<size_t>(__builtin_ctz(mask)))) return;
-  }
-#endif
-  for (; i < size; ++i)
-    if (data[i] == '\n' && !atLineFeed(i)) return;
-  piece(std::string_view(data + start, size - start));
+  });
+  if (whole) piece(std::string_view(data + start, text.size() - start));
+}
+
+// The section whose text begins `rest` ends with the CR of the first CR LF
+// "[" of `rest`, or with `rest`. Calls piece(view) for each piece of the
+// section's split at CR LF, the last one ending in that CR, and returns the
+// section's length: the search for its end and the split are one sweep.
+template <typename Piece>
+size_t ForEachSectionPiece(std::string_view rest, Piece&& piece) {
+  const char* const data = rest.data();
+  size_t start = 0;
+  size_t end = rest.size();
+  ForEachLineFeed(rest, [&](size_t lf) {
+    if (lf == start || data[lf - 1] != '\r') return true;
+    if (lf + 1 < rest.size() && data[lf + 1] == '[') {
+      end = lf;
+      return false;
+    }
+    piece(std::string_view(data + start, lf - 1 - start));
+    start = lf + 1;
+    return true;
+  });
+  piece(std::string_view(data + start, end - start));
+  return end;
 }
 
 // The lines of a stored file: its pieces, without the empty one behind a

@@ -1,11 +1,12 @@
-// The POSIX file system: stat for existence, one open/read/close per file,
-// writes flushed before they are renamed into place.
+// The POSIX file system: stat for existence, one open/pread/close per file
+// of usual size, writes flushed before they are renamed into place.
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <new>
@@ -20,18 +21,22 @@ bool Fail(std::string* error) {
   return false;
 }
 
-// One read of size + 1 bytes normally ends it: a short read of a regular
-// file means end of file. A file that grew meanwhile is read on to its end,
-// or to the limit, past which it counts as unreadable.
-bool ReadAll(int fd, std::string* contents, size_t maxBytes) {
+// The first read asks for this much, into the stack: a word list is about
+// 100 KB, and a file shorter than this is read by that one call.
+constexpr size_t kFirstRead = size_t{120} << 10;
+
+// A regular file read on behind its first `done` bytes, to its end or to
+// the limit, past which it counts as unreadable. One read of size + 1 bytes
+// normally ends it: a short read of a regular file means end of file. A
+// file that grew meanwhile is read on.
+bool ReadRest(int fd, std::string* contents, size_t done, size_t maxBytes) {
   struct stat info {};
   if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) return false;
   const auto expected = static_cast<size_t>(info.st_size);
   if (expected > maxBytes) return false;
-  contents->resize(expected + 1);
-  size_t done = 0;
+  contents->resize(std::max(expected, done) + 1);
   for (;;) {
-    ssize_t n = read(fd, &(*contents)[done], contents->size() - done);
+    const ssize_t n = pread(fd, &(*contents)[done], contents->size() - done, static_cast<off_t>(done));
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) return false;
     done += static_cast<size_t>(n);
@@ -41,6 +46,23 @@ bool ReadAll(int fd, std::string* contents, size_t maxBytes) {
   }
   contents->resize(done);
   return true;
+}
+
+// No fstat in front of the read: a pipe, socket or terminal can't be read
+// at an offset (ESPIPE), nor a directory (EISDIR), so what answers a pread
+// at offset 0 with fewer bytes than asked is a regular file at its end. A
+// read that fills the room, or an empty one, doesn't tell: then fstat
+// decides, and only a regular file within the limit is read on.
+bool ReadAll(int fd, std::string* contents, size_t maxBytes) {
+  std::array<char, kFirstRead> first;  // not cleared: the read fills what counts
+  const size_t room = maxBytes < kFirstRead ? maxBytes + 1 : kFirstRead;
+  ssize_t n = 0;
+  do n = pread(fd, first.data(), room, 0);
+  while (n < 0 && errno == EINTR);
+  if (n < 0) return false;
+  const auto done = static_cast<size_t>(n);
+  contents->assign(first.data(), done);
+  return (done != 0 && done < room) || ReadRest(fd, contents, done, maxBytes);
 }
 
 bool WriteAll(int fd, const std::string& contents) {
@@ -61,8 +83,9 @@ class PosixFileSystem : public IFileSystem {
     return stat(NativePath(path).c_str(), &info) == 0;
   }
 
-  // O_NONBLOCK: opening a named pipe would otherwise wait for a writer. What
-  // isn't a regular file is refused on fstat, before any read.
+  // O_NONBLOCK: opening a named pipe would otherwise wait for a writer, and
+  // a device that honours it doesn't wait either. What isn't a regular file
+  // fails the first read or is refused on fstat (see ReadAll).
   FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) override {
     contents->clear();
     try {
