@@ -112,7 +112,7 @@ TEST_F(Flow, CloseButtonAndTitleBarShutDownAudioThenFormsThenEnd) {
   }
 }
 
-TEST_F(Flow, FormsOtherThanTheMainFormAreUnloadedByTheWalk) {
+TEST_F(Flow, FormsOtherThanTheMainFormAreUnloadedByTheWalkAndTheRestAtTheEnd) {
   Start();
   auto unloaded = std::make_shared<EventLog>();
   for (const char* name : {"FOther", "FWait"})
@@ -120,6 +120,8 @@ TEST_F(Flow, FormsOtherThanTheMainFormAreUnloadedByTheWalk) {
   ShutdownApp();
   EXPECT_EQ(*unloaded, (EventLog{"FOther"}));
   EXPECT_EQ(Loaded(), (EventLog{"FWait"}));
+  ReleaseForms();  // at the very end, every form still loaded goes
+  EXPECT_EQ(*unloaded, (EventLog{"FOther", "FWait"}));
 }
 
 // Windows-1252 bytes, a stray CR and a trailing blank; a sentence that
