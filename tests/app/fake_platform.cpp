@@ -1,4 +1,4 @@
-// The recording fakes' bodies.
+// The fakes' bodies.
 #include "fake_platform.h"
 
 #include "app/FJeerbox.h"
@@ -6,44 +6,58 @@
 
 namespace jeerbox::testing {
 
-void RecordingMessageBox::MsgBox(const std::string& text, int icon, const std::string& title) {
-  shown.push_back({text, icon, title});
-  mLog.push_back("message " + text);
+FakePlatform::FakePlatform() : mSaved(Services()) {
+  AppServices services;
+  services.process = this;
+  services.messageBox = this;
+  services.clipboard = this;
+  services.internet = this;
+  services.shell = this;
+  services.audioControl = &audio;
+  services.waveDevices = &waveDevices;
+  services.makeMainView = [this](FJeerbox& form) { return std::make_unique<RecordingView>(form, *this); };
+  SetServices(services);
 }
 
-void RecordingProcess::End() {
-  ++mEnds;
+FakePlatform::~FakePlatform() { SetServices(mSaved); }
+
+EventLog FakePlatform::Log() const {
+  EventLog merged;
+  size_t note = 0;
+  for (size_t i = 0; i <= audio.Log().size(); ++i) {
+    for (; note < mNotes.size() && mNotes[note].first == i; ++note) merged.push_back(mNotes[note].second);
+    if (i < audio.Log().size()) merged.push_back(audio.Log()[i]);
+  }
+  return merged;
+}
+
+void FakePlatform::MsgBox(const std::string& text, int icon, const std::string&) {
+  shown.emplace_back(text, icon);
+  Note("message");
+}
+
+void FakePlatform::End() {
+  ++ends;
   const RecordingView* view = MainView();
-  mLog.push_back(std::string("end") + (view && view->visible ? " (window still up)" : ""));
+  Note(std::string("end") + (view && view->visible ? " (window still up)" : ""));
 }
 
-HINTERNET RecordingInternet::InternetOpenA(const char* agent, uint32_t accessType, const char* proxyName,
-                                           const char* proxyBypass, uint32_t flags) {
-  calls.push_back("open agent=" + std::string(agent) + " access=" + std::to_string(accessType) +
-                  " proxy=" + (proxyName ? "set" : "none") + " bypass=" + (proxyBypass ? "set" : "none") +
-                  " flags=" + std::to_string(flags));
+HINTERNET FakePlatform::InternetOpenA(const char*, uint32_t, const char*, const char*, uint32_t) {
   if (!sessionOpens) return nullptr;
   ++openHandles;
   return &mSession;
 }
 
-HINTERNET RecordingInternet::InternetOpenUrlA(HINTERNET internet, const char* url, const char* headers,
-                                              uint32_t headersLength, uint32_t flags, uintptr_t context) {
-  char hex[16];
-  std::snprintf(hex, sizeof hex, "%08X", flags);
-  calls.push_back(std::string("url ") + url + " headers=" + (headers ? headers : "none") + "/" +
-                  std::to_string(headersLength) + " flags=0x" + hex + " context=" + std::to_string(context) +
-                  (internet == &mSession ? "" : " (no session)"));
-  if (!hostAnswers || internet != &mSession) return nullptr;
+HINTERNET FakePlatform::InternetOpenUrlA(HINTERNET session, const char* url, const char*, uint32_t, uint32_t,
+                                         uintptr_t) {
+  urls.emplace_back(url);
+  if (!hostAnswers || session != &mSession) return nullptr;
   ++openHandles;
   return &mRequest;
 }
 
-bool RecordingInternet::InternetCloseHandle(HINTERNET handle) {
-  calls.emplace_back(handle == &mSession   ? "close session"
-                     : handle == &mRequest ? "close request"
-                                           : "close ?");
-  --openHandles;
+bool FakePlatform::InternetCloseHandle(HINTERNET handle) {
+  openHandles -= handle == &mSession || handle == &mRequest ? 1 : 0;
   return true;
 }
 
@@ -56,31 +70,9 @@ bool RecordingView::CloseWindow() {
   return goes;
 }
 
-FakePlatform::FakePlatform() : mSaved(Services()) {
-  AppServices services;
-  services.process = &process;
-  services.messageBox = &messageBox;
-  services.clipboard = &clipboard;
-  services.internet = &internet;
-  services.shell = &shell;
-  services.audioControl = &audioControl;
-  services.waveDevices = &waveDevices;
-  services.makeMainView = [](FJeerbox& form) { return std::make_unique<RecordingView>(form); };
-  SetServices(services);
-}
-
-FakePlatform::~FakePlatform() { SetServices(mSaved); }
-
 RecordingView* MainView() {
   FJeerbox* form = MainForm();
   return form ? dynamic_cast<RecordingView*>(form->View()) : nullptr;
-}
-
-int FindInLog(const EventLog& log, const std::string& prefix) {
-  for (size_t i = 0; i < log.size(); ++i) {
-    if (log[i].rfind(prefix, 0) == 0) return static_cast<int>(i);
-  }
-  return -1;
 }
 
 }  // namespace jeerbox::testing

@@ -1,7 +1,11 @@
-// Main and ShutdownApp: the order of the start, the refusal of a second
-// copy, the command-line warning, and the orderly end by every route.
+// The program flow on a platform of fakes: Main and ShutdownApp (the order
+// of the start, the refusal of a second copy, the command-line warning, the
+// orderly end by every route) and the main form's handlers (the sentence
+// shown and copied byte for byte, the Copy button, the laugh, the about
+// box, the banner's connection test).
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "app/FJeerbox.h"
@@ -11,138 +15,183 @@
 #include "helpers/fake_file_system.h"
 #include "sound/FDMC.h"
 #include "support/globals.h"
+#include "text/CTextGenerator.h"
 
 namespace jeerbox::testing {
 namespace {
 
-class ProgramFlow : public ::testing::Test {
+class Flow : public ::testing::Test {
  protected:
   void TearDown() override {
     ReleaseForms();
     gFDMC = nullptr;
   }
-
-  // Names of the forms still loaded.
-  static std::vector<std::string> Loaded() {
-    std::vector<std::string> names;
+  void Start() {
+    Main();
+    form = MainForm();
+    view = MainView();
+    files.Write(kLaugh, "RIFF");
+  }
+  size_t Laughs() const { return platform.audio.Matching("LoadChannel(" + kLaugh + ")").size(); }
+  static EventLog Loaded() {
+    EventLog names;
     for (FormId id : LoadedForms()) names.push_back(FormName(id));
     return names;
   }
-  EventLog LogFrom(size_t first) const {
-    return EventLog(platform.log.begin() + static_cast<long>(first), platform.log.end());
-  }
 
+  const std::string kLaugh = "C:\\Program Files\\Jeerbox\\Media\\misc_laugh.wav";
   FakeFileSystem files;
   FakePlatform platform;
+  FJeerbox* form = nullptr;
+  RecordingView* view = nullptr;
 };
 
-TEST_F(ProgramFlow, SecondCopyIsRefusedWithTheMessageAndNothingStarts) {
-  platform.process.previousInstance = true;
+TEST_F(Flow, SecondCopyIsRefusedWithTheMessageAndNothingStarts) {
+  platform.previousInstance = true;
   Main();
-  ASSERT_EQ(platform.messageBox.shown.size(), 1u);
-  EXPECT_EQ(platform.messageBox.shown[0].text,
-            "There is another copy of Jeerbox (or Jeerbox Configuration) currently running\r\r"
-            "If you have just closed Jeerbox then you may need to wait for a few seconds before "
-            "starting again");
-  EXPECT_EQ(platform.messageBox.shown[0].icon, kIconExclamation);
-  EXPECT_EQ(platform.messageBox.shown[0].title, "Jeerbox");
-  EXPECT_TRUE(platform.process.Ended());
+  EXPECT_EQ(platform.Log(), (EventLog{"message", "end"}));
+  EXPECT_EQ(platform.shown[0], std::make_pair(PreviousInstanceText(), kIconExclamation));
   EXPECT_EQ(MainForm(), nullptr);
   EXPECT_EQ(gFDMC, nullptr);
-  EXPECT_EQ(FindInLog(platform.log, "audio"), -1);
 }
 
-TEST_F(ProgramFlow, StartSetsTheValuesThenAudioThenTheWindow) {
+TEST_F(Flow, StartSetsTheValuesThenAudioThenTheWindowWithCopyOff) {
   gAllowMarkedText = false;
-  Main();
-  EXPECT_EQ(gAppPath, "C:\\Program Files\\Jeerbox");
+  Start();
+  EXPECT_EQ(gAppPath, platform.ExecutableDirectory());
   EXPECT_TRUE(gAllowMarkedText);
-  EXPECT_TRUE(platform.messageBox.shown.empty());
-  EXPECT_FALSE(platform.process.Ended());
-  ASSERT_NE(gFDMC, nullptr);
-  ASSERT_NE(MainView(), nullptr);
-  EXPECT_TRUE(MainView()->visible);
-  EXPECT_FALSE(MainView()->copyEnabled) << "Copy is off before the window is first seen";
-  // Audio came up (the mixer opened) while no window was yet on screen.
-  EXPECT_EQ(platform.log, (EventLog{"audio ResetMixer", "audio OpenMixer"}));
-  EXPECT_EQ(Loaded(), (std::vector<std::string>{"FDMC", "FJeerbox"}));
+  const EventLog log = platform.Log();
+  ASSERT_EQ(log.size(), 3u);
+  EXPECT_EQ(log[0], "ResetMixer");
+  EXPECT_EQ(log[1].rfind("OpenMixer", 0), 0u);
+  EXPECT_EQ(log[2], "show") << "audio is up before the window";
+  EXPECT_FALSE(view->copyEnabled) << "the start text must never reach the clipboard";
+  EXPECT_EQ(Loaded(), (EventLog{"FDMC", "FJeerbox"}));
 }
 
-TEST_F(ProgramFlow, CommandLineOfAnythingButBlanksIsWarnedAboutOnceThenStartGoesOn) {
-  struct Case {
-    const char* commandLine;
-    bool warned;
-  };
-  const Case cases[] = {{"", false}, {"   ", false}, {"x", true}, {" -platform offscreen ", true}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.commandLine);
+TEST_F(Flow, CommandLineOfAnythingButBlanksIsWarnedAboutFirstThenStartGoesOn) {
+  const std::pair<const char*, EventLog> cases[] = {
+      {"", {}}, {"   ", {}}, {" -platform offscreen ", {"message"}}};
+  for (const auto& [commandLine, warned] : cases) {
+    SCOPED_TRACE(commandLine);
     FakePlatform fresh;
-    fresh.process.commandLine = c.commandLine;
+    fresh.commandLine = commandLine;
     Main();
-    if (c.warned) {
-      ASSERT_EQ(fresh.messageBox.shown.size(), 1u);
-      EXPECT_EQ(fresh.messageBox.shown[0].text, "Invalid command line ignored");
-      EXPECT_EQ(fresh.messageBox.shown[0].icon, kIconExclamation);
-      EXPECT_EQ(FindInLog(fresh.log, "message"), 0) << "the warning comes before audio";
-    } else {
-      EXPECT_TRUE(fresh.messageBox.shown.empty());
-    }
-    ASSERT_NE(MainView(), nullptr);
-    EXPECT_TRUE(MainView()->visible);
-    EXPECT_FALSE(fresh.process.Ended());
+    const EventLog log = fresh.Log();
+    EXPECT_EQ(EventLog(log.begin(), log.end() - 3), warned);
+    EXPECT_EQ(log.back(), "show");
     ReleaseForms();
     gFDMC = nullptr;
   }
 }
 
 // After the user asks to close: audio shut down, the audio form unloaded,
-// the main form unloaded, and only then the end. From the title bar the
-// window is already closing, so the nested unload is refused and the end
-// comes while it is still up.
-void ExpectOrderlyEnd(const EventLog& tail, const std::string& end) {
-  EXPECT_EQ(tail,
-            (EventLog{"audio ResetMixer", "audio CloseMusic", "audio CloseMixer", "audio ResetMixer", end}));
+// the main form unloaded (an unload the program asks for shuts nothing down
+// again), and only then the end. From the title bar the window is already
+// closing, so the nested unload is refused and the end comes while it is
+// still up.
+TEST_F(Flow, CloseButtonAndTitleBarShutDownAudioThenFormsThenEnd) {
+  const std::pair<void (*)(), const char*> cases[] = {
+      {[] { MainForm()->cmdClose_Click(); }, "end"},
+      {[] { EXPECT_TRUE(MainView()->CloseWindow()); }, "end (window still up)"},
+  };
+  for (const auto& [close, end] : cases) {
+    SCOPED_TRACE(end);
+    FakePlatform fresh;
+    Main();
+    close();
+    EventLog expected = {"ResetMixer"};
+    for (const std::string& call : SweepCalls()) expected.push_back(call);
+    for (const char* call : {"CloseMusic", "CloseMixer", "ResetMixer", end}) expected.emplace_back(call);
+    const EventLog log = fresh.Log();
+    EXPECT_EQ(EventLog(std::find(log.begin(), log.end(), "show") + 1, log.end()), expected);
+    EXPECT_FALSE(MainView()->visible);
+    EXPECT_EQ(gFDMC, nullptr);
+    EXPECT_TRUE(Loaded().empty());
+    ReleaseForms();
+  }
 }
 
-TEST_F(ProgramFlow, CloseButtonShutsDownAudioThenFormsThenTheMainFormLast) {
-  Main();
-  const size_t start = platform.log.size();
-  MainForm()->cmdClose_Click();
-  ExpectOrderlyEnd(LogFrom(start), "end");
-  EXPECT_EQ(gFDMC, nullptr);
-  EXPECT_TRUE(Loaded().empty());
-  EXPECT_EQ(platform.process.Ends(), 1);
-}
-
-TEST_F(ProgramFlow, TitleBarCloseBehavesLikeTheCloseButton) {
-  Main();
-  const size_t start = platform.log.size();
-  EXPECT_TRUE(MainView()->CloseWindow());
-  ExpectOrderlyEnd(LogFrom(start), "end (window still up)");
-  EXPECT_FALSE(MainView()->visible);
-  EXPECT_TRUE(Loaded().empty());
-  EXPECT_EQ(platform.process.Ends(), 1);
-}
-
-TEST_F(ProgramFlow, AnUnloadTheProgramAsksForDoesNotShutDown) {
-  Main();
-  const size_t start = platform.log.size();
-  MainForm()->Unload();
-  EXPECT_FALSE(MainView()->visible);
-  EXPECT_TRUE(LogFrom(start).empty());
-  EXPECT_EQ(platform.process.Ends(), 0);
-  EXPECT_EQ(Loaded(), (std::vector<std::string>{"FDMC"}));
-  EXPECT_NE(gFDMC, nullptr);
-}
-
-TEST_F(ProgramFlow, FormsOtherThanTheMainFormAreUnloadedByTheWalk) {
-  Main();
-  auto unloaded = std::make_shared<std::vector<std::string>>();
-  LoadForm("FOther", [unloaded] { unloaded->push_back("FOther"); });
-  LoadForm("FWait", [unloaded] { unloaded->push_back("FWait"); });
+TEST_F(Flow, FormsOtherThanTheMainFormAreUnloadedByTheWalkAndTheRestAtTheEnd) {
+  Start();
+  auto unloaded = std::make_shared<EventLog>();
+  for (const char* name : {"FOther", "FWait"})
+    LoadForm(name, [unloaded, name] { unloaded->push_back(name); });
   ShutdownApp();
-  EXPECT_EQ(*unloaded, (std::vector<std::string>{"FOther"}));
-  EXPECT_EQ(Loaded(), (std::vector<std::string>{"FWait"}));
+  EXPECT_EQ(*unloaded, (EventLog{"FOther"}));
+  EXPECT_EQ(Loaded(), (EventLog{"FWait"}));
+  ReleaseForms();  // at the very end, every form still loaded goes
+  EXPECT_EQ(*unloaded, (EventLog{"FOther", "FWait"}));
+}
+
+// Windows-1252 bytes, a stray CR and a trailing blank; a sentence that
+// can't be made is the fixed line, and the press goes on.
+TEST_F(Flow, EachPressShowsItsSentencePlaysALaughAndCopyTakesItByteForByte) {
+  Start();
+  const std::string sentences[] = {"Nitwit.", "Caf\xE9 \x93lout\x94 \x80\x85\rnitwit ", kMissingFilesText};
+  for (const std::string& sentence : sentences) {
+    form->SetInsultSource([sentence]() -> std::string {
+      if (sentence == kMissingFilesText) throw std::bad_alloc();
+      return sentence;
+    });
+    form->cmdInsult_Click();
+    EXPECT_EQ(view->InsultText(), sentence);
+    EXPECT_TRUE(view->copyEnabled);
+    form->cmdCopy_Click();
+    EXPECT_EQ(platform.copies.back(), sentence);
+  }
+  EXPECT_EQ(Laughs(), 3u);
+}
+
+TEST_F(Flow, CountStopsAtItsLimitInsteadOfTurningCopyOff) {
+  Start();
+  files.Remove(kLaugh);
+  form->SetInsultSource([] { return std::string("x"); });
+  for (int i = 0; i < 32768; ++i) form->cmdInsult_Click();
+  EXPECT_EQ(form->InsultCount(), 32767);
+  EXPECT_TRUE(view->copyEnabled);
+}
+
+TEST_F(Flow, AboutBoxNamesTheDeploymentsSiteAndAddress) {
+  Start();
+  form->cmdAbout_Click();
+  ASSERT_EQ(platform.shown.size(), 1u);
+  const auto& [text, icon] = platform.shown[0];
+  const Deployment d = BuiltInDeployment();
+  for (const std::string& part : {d.productSiteUrl + "\r\r", d.sponsorsAddress + "\r\r"})
+    EXPECT_NE(text.find(part), std::string::npos) << part;
+  EXPECT_EQ(text.substr(text.size() - d.noticeLine.size()), d.noticeLine);
+  EXPECT_EQ(icon, kIconInformation);
+}
+
+// The banner tests the maker's host, not the sponsor's, each click anew,
+// then opens the sponsor's page, or says why it can't, with its URL.
+TEST_F(Flow, BannerOpensTheSponsorOnlyWhenTheMakersHostAnswers) {
+  Start();
+  const Deployment d = BuiltInDeployment();
+  const std::string testUrl = "http://" + d.testHost + "/connectiontest.html";
+  const struct {
+    bool sessionOpens, hostAnswers;
+    EventLog urls;
+  } cases[] = {{true, true, {testUrl, testUrl}}, {true, false, {testUrl, testUrl}}, {false, true, {}}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::to_string(c.sessionOpens) + std::to_string(c.hostAnswers));
+    FakePlatform fresh;
+    fresh.sessionOpens = c.sessionOpens;
+    fresh.hostAnswers = c.hostAnswers;
+    form->imgSponsoredBy_Click();
+    form->imgSponsoredBy_Click();
+    EXPECT_EQ(fresh.urls, c.urls);
+    EXPECT_EQ(fresh.openHandles, 0) << "every handle opened is closed";
+    const bool answered = c.sessionOpens && c.hostAnswers;
+    EXPECT_EQ(fresh.opened.size(), answered ? 2u : 0u);
+    EXPECT_EQ(fresh.shown.size(), answered ? 0u : 2u);
+    for (const std::string& url : fresh.opened) EXPECT_EQ(url, d.sponsorHomeUrl);
+    for (const auto& [text, icon] : fresh.shown) {
+      EXPECT_EQ(text.rfind(d.sponsorHomeUrl + "\r\r", 0), 0u);
+      EXPECT_EQ(icon, kIconExclamation);
+    }
+  }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // Files a user can put where the program reads one: each kind at each place.
 // The program goes on every time with the place's neutral result, and
-// nothing blocks (a read that waited on a pipe would hang the test).
+// nothing blocks (a read that waited on a pipe would hang the test). First,
+// the POSIX read itself: bytes as they are, up to the limit, and a missing
+// file told from one that can't be read.
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,6 +20,7 @@
 #include "helpers/scrambled_writer.h"
 #include "helpers/silent_audio_control.h"
 #include "helpers/temp_dir.h"
+#include "platform/file_system.h"
 #include "sound/FDMC.h"
 #include "sound/MSounds.h"
 #include "support/CSettings.h"
@@ -28,51 +31,61 @@
 namespace jeerbox::testing {
 namespace {
 
-enum class Kind { kHuge, kPipe, kDirectory, kDevice, kUnreadable, kEmpty, kBinary };
+TEST(PosixFileSystem, ReadsBytesAsTheyAreUpToTheLimitAndTellsMissingFromUnreadable) {
+  TempDir dir;
+  const std::string bytes("a\r\n\0\xff[b", 7);
+  dir.Write("System/Misc.001", bytes);
+  const std::string file = dir.Path() + "\\System\\Misc.001";
+  const struct {
+    const char* name;
+    std::string path;
+    size_t limit;
+    FileStatus status;
+  } cases[] = {
+      {"whole at the limit", file, bytes.size(), FileStatus::kOk},
+      {"one byte over", file, bytes.size() - 1, FileStatus::kError},
+      {"missing", dir.Path() + "\\nothing", 9, FileStatus::kNotFound},
+      {"through a file", file + "\\x", 9, FileStatus::kNotFound},
+  };
+  for (const auto& c : cases) {
+    std::string read = "stale";
+    EXPECT_EQ(HostFileSystem().ReadFile(c.path, &read, c.limit), c.status) << c.name;
+    EXPECT_EQ(read, c.status == FileStatus::kOk ? bytes : "") << c.name;
+  }
+}
+
+using Maker = void (*)(const std::string& path);
 
 struct Row {
   const char* name;
-  Kind kind;
   bool regular;  // a regular file the program can read whole
+  Maker make;
 };
 
 const Row kRows[] = {
-    {"huge sparse file", Kind::kHuge, false}, {"named pipe", Kind::kPipe, false},
-    {"directory", Kind::kDirectory, false},   {"device", Kind::kDevice, false},
-    {"unreadable", Kind::kUnreadable, false}, {"empty", Kind::kEmpty, true},
-    {"binary", Kind::kBinary, true},
+    {"huge sparse file", false,  // 64 GiB, not one block of it written
+     [](const std::string& path) {
+       std::ofstream{path};
+       std::filesystem::resize_file(path, std::uintmax_t{1} << 36);
+     }},
+    {"named pipe", false, [](const std::string& path) { mkfifo(path.c_str(), 0644); }},
+    {"directory", false, [](const std::string& path) { std::filesystem::create_directory(path); }},
+    {"device", false, [](const std::string& path) { std::filesystem::create_symlink("/dev/zero", path); }},
+    {"unreadable", false,  // a regular file whose read fails, also for root
+     [](const std::string& path) { std::filesystem::create_symlink("/proc/self/mem", path); }},
+    {"empty", true, [](const std::string& path) { std::ofstream{path}; }},
+    {"binary", true,
+     [](const std::string& path) {
+       std::mt19937 rng(7);
+       std::string noise(4096, '\0');
+       for (char& c : noise) c = static_cast<char>(rng());
+       std::ofstream(path, std::ios::binary) << noise;
+     }},
 };
 
-void Make(Kind kind, const std::string& path) {
+void Make(const Row& row, const std::string& path) {
   std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-  switch (kind) {
-    case Kind::kHuge:  // 64 GiB, not one block of it written
-      std::ofstream(path).close();
-      std::filesystem::resize_file(path, std::uintmax_t{1} << 36);
-      break;
-    case Kind::kPipe:
-      mkfifo(path.c_str(), 0644);
-      break;
-    case Kind::kDirectory:
-      std::filesystem::create_directory(path);
-      break;
-    case Kind::kDevice:
-      std::filesystem::create_symlink("/dev/zero", path);
-      break;
-    case Kind::kUnreadable:  // a regular file whose read fails, also for root
-      std::filesystem::create_symlink("/proc/self/mem", path);
-      break;
-    case Kind::kEmpty:
-      std::ofstream(path).close();
-      break;
-    case Kind::kBinary: {
-      std::mt19937 rng(7);
-      std::string noise(4096, '\0');
-      for (char& c : noise) c = static_cast<char>(rng());
-      std::ofstream(path, std::ios::binary) << noise;
-      break;
-    }
-  }
+  row.make(path);
 }
 
 TEST(HostileFiles, EveryKindAtEveryPlaceLeavesTheNeutralResult) {
@@ -84,23 +97,23 @@ TEST(HostileFiles, EveryKindAtEveryPlaceLeavesTheNeutralResult) {
     auto fail = [&row](const char* place) { return std::string(row.name) + " as " + place; };
 
     // A word list: the fixed line, and sentences still come.
-    Make(row.kind, root + "System/Misc.001");
+    Make(row, root + "System/Misc.001");
     EXPECT_TRUE(FileExists(gAppPath + "\\System\\Misc.001")) << fail("word list");
     EXPECT_EQ(CTextGenerator().GetText("Misc-Jeerbox-Noun"), kMissingFilesText) << fail("word list");
     EXPECT_FALSE(GenerateInsult().empty()) << fail("word list");
 
     // A later file of a family: it counts as empty and the scan goes on.
     dir.Write("System/General.001", ScrambledWriter().Section("General-Insult").Line("eel").Bytes());
-    Make(row.kind, root + "System/General.002");
+    Make(row, root + "System/General.002");
     dir.Write("System/General.003", ScrambledWriter().Section("General-Insult").Line("newt").Bytes());
     EXPECT_EQ(CTextGenerator().GetCacheItem("General-Insult").size(), 2u) << fail("later file");
 
     // The settings file: the default.
-    Make(row.kind, root + "UserInfo/Tallowick.cfg");
+    Make(row, root + "UserInfo/Tallowick.cfg");
     EXPECT_EQ(CSettings().ReadSetting("EnableFX", "none"), "none") << fail("settings");
 
     // A laugh: the mixer control is handed only a file it can read whole.
-    Make(row.kind, root + "Media/misc_laugh.wav");
+    Make(row, root + "Media/misc_laugh.wav");
     RecordingAudioControl control;
     FixedWaveDevices devices(1);
     FDMC audio(control, devices);
@@ -111,9 +124,9 @@ TEST(HostileFiles, EveryKindAtEveryPlaceLeavesTheNeutralResult) {
     EXPECT_EQ(control.Matching("LoadChannel").size(), row.regular ? 1u : 0u) << fail("media");
 
     // A source of jeer pack: packed, or refused with an error and exit 1.
-    Make(row.kind, root + "src/Misc.001.txt");
+    Make(row, root + "src/Misc.001.txt");
     std::ostringstream out, err;
-    EXPECT_EQ(RunPack(root + "src", root + "packed", out, err), row.kind == Kind::kEmpty ? 0 : 1)
+    EXPECT_EQ(RunPack(root + "src", root + "packed", out, err), std::string(row.name) == "empty" ? 0 : 1)
         << fail("pack source");
   }
 }

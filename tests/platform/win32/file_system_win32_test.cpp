@@ -1,5 +1,7 @@
-// The Win32 file calls on real files. The writes, lists, renames and
-// removals are driven through jeer.exe pack by the command tests.
+// The Win32 file calls on real files: bytes as they are through backslash
+// paths, a missing file told from one that can't be read, and the listing
+// jeer pack works from (its writes, renames and removals are driven through
+// jeer.exe by the command tests).
 #include <gtest/gtest.h>
 
 #include "helpers/temp_dir.h"
@@ -8,42 +10,35 @@
 namespace jeerbox {
 namespace {
 
-TEST(Win32FileSystem, ReadsBytesAsTheyAreThroughBackslashPaths) {
+TEST(Win32FileSystem, ReadsBytesAsTheyAreAndTellsMissingFromUnreadable) {
   testing::TempDir dir;
   // CR LF, NUL and ^Z: a text-mode read would change or stop at them.
   const std::string bytes("a\r\n\0\x1a\xff[b\n", 9);
   dir.Write("System/Misc.001", bytes);
-  IFileSystem& fs = HostFileSystem();
-  std::string read;
-  EXPECT_TRUE(fs.FileExists(dir.Path() + "\\System\\Misc.001"));
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\System\\Misc.001", &read, bytes.size()), FileStatus::kOk);
-  EXPECT_EQ(read, bytes);
+  const struct {
+    const char* name;
+    FileStatus status;
+    std::string read;
+  } cases[] = {{"System\\Misc.001", FileStatus::kOk, bytes},
+               {"nothing", FileStatus::kNotFound, ""},
+               {"no\\such\\dir", FileStatus::kNotFound, ""},
+               {"System", FileStatus::kError, ""}};  // a directory exists but isn't read
+  for (const auto& c : cases) {
+    std::string read = "stale";
+    EXPECT_EQ(HostFileSystem().ReadFile(dir.Path() + "\\" + c.name, &read, 1 << 20), c.status) << c.name;
+    EXPECT_EQ(read, c.read) << c.name;
+    EXPECT_EQ(HostFileSystem().FileExists(dir.Path() + "\\" + c.name), c.status != FileStatus::kNotFound)
+        << c.name;
+  }
   // One byte over the limit is unreadable, not cut short.
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\System\\Misc.001", &read, bytes.size() - 1), FileStatus::kError);
-  EXPECT_EQ(read, "");
-  EXPECT_EQ(NativePath(dir.Path() + "\\System"), dir.Path() + "\\System");
-}
-
-TEST(Win32FileSystem, TellsMissingFromUnreadable) {
-  testing::TempDir dir;
-  dir.Write("System/keep", "");
-  IFileSystem& fs = HostFileSystem();
-  std::string read = "stale";
-  EXPECT_FALSE(fs.FileExists(dir.Path() + "\\nothing"));
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\nothing", &read, kMaxWordListBytes), FileStatus::kNotFound);
-  EXPECT_EQ(read, "");
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\no\\such\\dir", &read, kMaxWordListBytes), FileStatus::kNotFound);
-  // A directory exists but can't be read as a file.
-  EXPECT_TRUE(fs.FileExists(dir.Path() + "\\System"));
-  EXPECT_EQ(fs.ReadFile(dir.Path() + "\\System", &read, kMaxWordListBytes), FileStatus::kError);
-  EXPECT_EQ(read, "");
+  std::string read;
+  EXPECT_EQ(HostFileSystem().ReadFile(dir.Path() + "\\System\\Misc.001", &read, bytes.size() - 1),
+            FileStatus::kError);
 }
 
 TEST(Win32FileSystem, ListsFilesOnlySortedAndFailsForAMissingDirectory) {
   testing::TempDir dir;
-  dir.Write("b", "");
-  dir.Write("a.txt", "");
-  dir.Write("sub/c", "");
+  for (const char* name : {"b", "a.txt", "sub/c"}) dir.Write(name, "");
   std::vector<std::string> names;
   std::string error;
   ASSERT_TRUE(HostFileSystem().ListFiles(dir.Path() + "\\", &names, &error)) << error;

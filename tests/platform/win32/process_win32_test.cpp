@@ -1,13 +1,9 @@
-// The process facts: the command line after the program's name, the
-// program's directory, and the instance mutex.
+// The command line after the program's name, however Windows quoted the
+// program's path. (The instance mutex, the directory and the end are the
+// end-to-end test's.)
 #include "platform/win32/process_win32.h"
 
 #include <gtest/gtest.h>
-#include <windows.h>
-
-#include <memory>
-
-#include "platform/file_system.h"
 
 namespace jeerbox {
 namespace {
@@ -28,31 +24,6 @@ TEST(CommandLineArguments, AreWhatFollowsTheProgramName) {
       {"", ""},
   };
   for (const auto& c : cases) EXPECT_EQ(CommandLineArguments(c.commandLine), c.arguments) << c.commandLine;
-}
-
-TEST(Win32Process, FindsItsOwnDirectory) {
-  Win32Process process("Jeerbox.Test.Directory");
-  EXPECT_TRUE(HostFileSystem().FileExists(process.ExecutableDirectory() + "\\win32_tests.exe"));
-}
-
-TEST(Win32Process, ThePlaceIsTakenUntilItsHolderGoes) {
-  auto first = std::make_unique<Win32Process>("Jeerbox.Test.Instance");
-  Win32Process second("Jeerbox.Test.Instance");
-  EXPECT_FALSE(first->PrevInstance());
-  EXPECT_FALSE(first->PrevInstance());  // its own place
-  EXPECT_TRUE(second.PrevInstance());
-  EXPECT_FALSE(Win32Process("Jeerbox.Test.Other").PrevInstance());
-  first.reset();
-  EXPECT_FALSE(second.PrevInstance());
-}
-
-TEST(Win32Process, EndLeavesTheMessageLoop) {
-  Win32Process process("Jeerbox.Test.End");
-  EXPECT_FALSE(process.Ended());
-  process.End();
-  EXPECT_TRUE(process.Ended());
-  MSG message;
-  EXPECT_TRUE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
 }  // namespace
