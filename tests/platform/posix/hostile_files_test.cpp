@@ -52,6 +52,12 @@ TEST(PosixFileSystem, ReadsBytesAsTheyAreUpToTheLimitAndTellsMissingFromUnreadab
     EXPECT_EQ(HostFileSystem().ReadFile(c.path, &read, c.limit), c.status) << c.name;
     EXPECT_EQ(read, c.status == FileStatus::kOk ? bytes : "") << c.name;
   }
+  // jeer pack's listing: regular files only, sorted.
+  dir.Write("System/A.txt", "");
+  dir.Write("System/sub/B", "");
+  std::vector<std::string> names;
+  ASSERT_TRUE(HostFileSystem().ListFiles(dir.Path() + "\\System", &names, nullptr));
+  EXPECT_EQ(names, (std::vector<std::string>{"A.txt", "Misc.001"}));
 }
 
 using Maker = void (*)(const std::string& path);
