@@ -219,7 +219,8 @@ TEST_F(PackCommand, AFailedPackLeavesTheTargetAsItWas) {
   const ToolRun run = RunJeer("pack " + Args());
   EXPECT_EQ(run.exitCode, 1);
   EXPECT_EQ(run.out, "");
-  EXPECT_NE(run.err.find(NativePath(sources.Path() + "\\General.001.txt") + ":5: a data line can't begin with \"j\""),
+  EXPECT_NE(run.err.find(NativePath(sources.Path() + "\\General.001.txt") +
+                         ":5: a data line can't begin with \"j\""),
             std::string::npos)
       << run.err;
   EXPECT_NE(run.err.find("nothing written"), std::string::npos);
