@@ -68,7 +68,6 @@ add_executable(win32_tests
   cli/jeer_command_test.cpp
   cli/pack_test.cpp
   cli/check_test.cpp
-  cli/wordlist_test_util.cpp
 )
 target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}" JEERBOX_MEDIA_DIR="${media_dir}"
                                                JEERBOX_EXE=L"${jeerbox_exe}")
