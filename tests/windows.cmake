@@ -27,12 +27,8 @@ add_executable(core_tests
   support/profile_file_test.cpp
   support/random_test.cpp
   support/windows_1252_test.cpp
-  text/simple_crypto_test.cpp
-  text/section_reader_test.cpp
   text/text_store_test.cpp
-  text/file_cache_test.cpp
   text/line_list_test.cpp
-  text/bad_files_test.cpp
   text/token_expansion_test.cpp
   compose/insult_composer_test.cpp
   sound/fdmc_test.cpp
