@@ -22,11 +22,8 @@ target_compile_options(jeerbox_test_helpers PRIVATE -O0)
 
 # The shared code's own suites, as they stand for Linux.
 add_executable(core_tests
-  support/simple_io_test.cpp
+  support/support_test.cpp
   support/settings_test.cpp
-  support/profile_file_test.cpp
-  support/random_test.cpp
-  support/windows_1252_test.cpp
   text/text_store_test.cpp
   text/line_list_test.cpp
   text/token_expansion_test.cpp
