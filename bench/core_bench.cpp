@@ -12,7 +12,7 @@
 
 #include "bench_data.h"
 #include "compose/MJeerbox.h"
-#include "helpers/memory_file_system.h"
+#include "helpers/fake_file_system.h"
 #include "support/MSimpleIO.h"
 #include "support/globals.h"
 #include "support/random.h"
@@ -62,15 +62,14 @@ BENCHMARK(BM_ReadFamilyOnce);
 // The same with the files held in memory: the composer's own share.
 void BM_GenerateInsultInMemory(benchmark::State& state) {
   Data();
-  MemoryFileSystem memory;
+  testing::FakeFileSystem memory;  // in place from here on
   for (const char* key : {"Misc-X", "General-X"})
     for (int n = 1; n <= kMaxFileNumber; ++n) {
       const std::string path = CTextGenerator::BuildTextFileName(key, n);
       std::string bytes;
-      if (CurrentFileSystem().ReadFile(path, &bytes, kMaxWordListBytes) != FileStatus::kOk) break;
+      if (HostFileSystem().ReadFile(path, &bytes, kMaxWordListBytes) != FileStatus::kOk) break;
       memory.Write(path, bytes);
     }
-  ScopedFileSystem scoped(&memory);
   SeedRandom(1);
   for (auto _ : state) {
     std::string sentence = GenerateInsult();

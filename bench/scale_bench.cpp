@@ -16,7 +16,7 @@
 #include "bench_data.h"
 #include "compose/MJeerbox.h"
 #include "counting_file_system.h"
-#include "helpers/memory_file_system.h"
+#include "helpers/fake_file_system.h"
 #include "support/globals.h"
 #include "support/random.h"
 #include "text/CTextGenerator.h"

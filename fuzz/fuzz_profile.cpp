@@ -8,7 +8,7 @@
 using namespace jeerbox;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  MemoryFileSystem& files = fuzz::Files();
+  testing::FakeFileSystem& files = fuzz::Files();
   const CSettings settings;
   files.Write(settings.ConfigFile(), std::string(reinterpret_cast<const char*>(data), size));
   (void)SettingToBoolean(settings.ReadSetting("EnableFX", true), true);

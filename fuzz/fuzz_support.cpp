@@ -9,14 +9,10 @@
 
 namespace jeerbox::fuzz {
 
-MemoryFileSystem& Files() {
-  static MemoryFileSystem files;
-  static bool installed = [] {
-    SetFileSystem(&files);
-    gAppPath = "C:\\app";
-    return true;
-  }();
-  (void)installed;
+testing::FakeFileSystem& Files() {
+  static testing::FakeFileSystem files;  // in place from its first use on
+  gAppPath = "C:\\app";
+  files.ClearLog();  // a log over a whole run would grow without end
   SeedRandom(1);
   return files;
 }

@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "helpers/memory_file_system.h"
+#include "helpers/fake_file_system.h"
 
 namespace jeerbox::fuzz {
 
 // The in-memory file system every target works on, already in place, with
 // gAppPath at "C:\app" and the random source seeded.
-MemoryFileSystem& Files();
+testing::FakeFileSystem& Files();
 
 // Splits the input at a separator line into up to `parts` pieces.
 std::vector<std::string> SplitInput(const uint8_t* data, size_t size, size_t parts);

@@ -10,7 +10,7 @@
 using namespace jeerbox;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  MemoryFileSystem& files = fuzz::Files();
+  testing::FakeFileSystem& files = fuzz::Files();
   const fuzz::SlowInputLimit limit;
   const std::vector<std::string> parts = fuzz::SplitInput(data, size, 3);
   for (size_t n = 0; n < 3; ++n) {

@@ -3,29 +3,29 @@
 #include <cstdlib>
 
 #include "fuzz_support.h"
+#include "helpers/scrambled_writer.h"
 #include "text/CTextGenerator.h"
 #include "text/CTextUtils.h"
-#include "text/MSimpleCrypto.h"
 #include "text/shorthand.h"
 
 using namespace jeerbox;
 
 namespace {
 
-std::string Head(const std::string& key) { return "\r\n[" + SimpleCrypt(key) + "]\r\n"; }
-
-void WriteGeneralFamily(MemoryFileSystem& files, const std::string& extra) {
-  std::string file = ";recursive on purpose\r\n";
-  file += Head("General-Insult") + SimpleCrypt("<Insult> {a/b}") + "\r\n" + SimpleCrypt("<Curse>") + "\r\n";
-  file += Head("General-Curse") + SimpleCrypt("{<Insult>/<Exclaim>}") + "\r\n";
-  file += Head("General-Exclaim") + SimpleCrypt("gadzooks") + "\r\n" + SimpleCrypt(extra) + "\r\n";
-  files.Write(CTextGenerator::BuildTextFileName("General-X", 1), file);
+void WriteGeneralFamily(testing::FakeFileSystem& files, const std::string& extra) {
+  testing::ScrambledWriter file;
+  file.Comment("recursive on purpose").Section("General-Insult").Lines({"<Insult> {a/b}", "<Curse>"});
+  file.Section("General-Curse")
+      .Line("{<Insult>/<Exclaim>}")
+      .Section("General-Exclaim")
+      .Lines({"gadzooks", extra});
+  files.Write(CTextGenerator::BuildTextFileName("General-X", 1), file.Bytes());
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  MemoryFileSystem& files = fuzz::Files();
+  testing::FakeFileSystem& files = fuzz::Files();
   const fuzz::SlowInputLimit limit;
   const std::vector<std::string> parts = fuzz::SplitInput(data, size, 3);
   WriteGeneralFamily(files, parts.size() > 1 ? parts[1] : std::string());

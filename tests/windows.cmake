@@ -22,17 +22,10 @@ target_compile_options(jeerbox_test_helpers PRIVATE -O0)
 
 # The shared code's own suites, as they stand for Linux.
 add_executable(core_tests
-  support/simple_io_test.cpp
+  support/support_test.cpp
   support/settings_test.cpp
-  support/profile_file_test.cpp
-  support/random_test.cpp
-  support/windows_1252_test.cpp
-  text/simple_crypto_test.cpp
-  text/section_reader_test.cpp
   text/text_store_test.cpp
-  text/file_cache_test.cpp
   text/line_list_test.cpp
-  text/bad_files_test.cpp
   text/token_expansion_test.cpp
   compose/insult_composer_test.cpp
   sound/sound_test.cpp
@@ -65,7 +58,6 @@ add_executable(win32_tests
   cli/jeer_command_test.cpp
   cli/pack_test.cpp
   cli/check_test.cpp
-  cli/wordlist_test_util.cpp
 )
 target_compile_definitions(win32_tests PRIVATE JEER_PATH="${jeer_exe}" JEERBOX_MEDIA_DIR="${media_dir}"
                                                JEERBOX_EXE=L"${jeerbox_exe}")

@@ -1,35 +1,69 @@
-// An in-memory file system that records what was asked of it, so tests can
-// see which files were read, how often, and where a scan stopped. It puts
-// itself in place of the current file system while it lives.
+// Files held in memory by their backslash paths, for tests, benchmarks and
+// fuzzers that need a program directory without a disk. Directories exist
+// wherever a file lies below them; they can't be listed or made (the tools
+// that do are tested on disk). While it lives it stands in for the
+// program's file system, and it writes down what was asked of it.
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
-#include "helpers/memory_file_system.h"
+#include "platform/file_system.h"
+#include "support/MSimpleIO.h"
 
-namespace jeerbox::testing {
+namespace jeerbox {
 
-class FakeFileSystem : public MemoryFileSystem {
+// Puts a file system in place for the life of the object.
+class ScopedFileSystem {
  public:
-  FakeFileSystem();
-  ~FakeFileSystem() override;
+  explicit ScopedFileSystem(IFileSystem* fs) : mPrevious(SetFileSystem(fs)) {}
+  ~ScopedFileSystem() { SetFileSystem(mPrevious); }
+  ScopedFileSystem(const ScopedFileSystem&) = delete;
+  ScopedFileSystem& operator=(const ScopedFileSystem&) = delete;
+
+ private:
+  IFileSystem* mPrevious;
+};
+
+namespace testing {
+
+class FakeFileSystem : public IFileSystem {
+ public:
+  void Write(const std::string& path, const std::string& contents) { mFiles[path] = contents; }
+  void Remove(const std::string& path) { mFiles.erase(path); }
+  // Exists, but every read and write fails (a directory, or no permission).
+  void AddUnreadable(const std::string& path) { mUnreadable.insert(path); }
+  // The file's contents, or "" when it doesn't exist.
+  std::string Contents(const std::string& path) const { return mFiles.count(path) ? mFiles.at(path) : ""; }
+
+  // Successful reads of the path.
+  int Reads(const std::string& path) const { return mReads.count(path) ? mReads.at(path) : 0; }
+  // Every path asked about, read or written, in order.
+  const std::vector<std::string>& Touched() const { return mTouched; }
+  void ClearLog() {
+    mReads.clear();
+    mTouched.clear();
+  }
 
   bool FileExists(const std::string& path) override;
   FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) override;
   bool WriteFile(const std::string& path, const std::string& contents, std::string* error) override;
-
-  // Successful reads of the path.
-  int Reads(const std::string& path) const;
-  // Every path asked about, read, probed or written, in order.
-  const std::vector<std::string>& Touched() const { return mTouched; }
-  void ClearLog();
+  bool ListFiles(const std::string&, std::vector<std::string>*, std::string*) override { return false; }
+  bool MakeDirectories(const std::string&, std::string*) override { return false; }
+  bool RenameFile(const std::string& from, const std::string& to, std::string* error) override;
+  bool RemoveFile(const std::string& path, std::string*) override { return mFiles.erase(path) > 0; }
 
  private:
+  bool IsDirectory(const std::string& path) const;
+
+  std::map<std::string, std::string> mFiles;
+  std::set<std::string> mUnreadable;
   std::map<std::string, int> mReads;
   std::vector<std::string> mTouched;
-  IFileSystem* mPrevious;
+  ScopedFileSystem mInPlace{this};
 };
 
-}  // namespace jeerbox::testing
+}  // namespace testing
+}  // namespace jeerbox

@@ -4,23 +4,44 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "text/MSimpleCrypto.h"
+
 namespace jeerbox::testing {
+
+using KeyLines = std::vector<std::pair<std::string, std::vector<std::string>>>;
 
 class ScrambledWriter {
  public:
   // A head for `key`, preceded by an empty line unless it opens the file.
-  ScrambledWriter& Section(const std::string& key);
-  ScrambledWriter& Lines(const std::vector<std::string>& texts);
-  ScrambledWriter& Line(const std::string& text);
-  ScrambledWriter& Comment(const std::string& text);
-  ScrambledWriter& Blank();
-  ScrambledWriter& Marker();
-  // Stored as given, not scrambled, with CR LF behind unless `eol` is false.
-  ScrambledWriter& Raw(const std::string& bytes, bool eol = true);
-  // Drops the file's last CR LF.
-  ScrambledWriter& NoFinalLineEnd();
+  ScrambledWriter& Section(const std::string& key) {
+    if (!mBytes.empty()) Blank();
+    return Raw("[" + SimpleCrypt(key) + "]");
+  }
+  // One section per key, in order.
+  ScrambledWriter& Sections(const KeyLines& lists) {
+    for (const auto& [key, lines] : lists) Section(key).Lines(lines);
+    return *this;
+  }
+  ScrambledWriter& Lines(const std::vector<std::string>& texts) {
+    for (const std::string& text : texts) Line(text);
+    return *this;
+  }
+  ScrambledWriter& Line(const std::string& text) { return Raw(SimpleCrypt(text)); }
+  ScrambledWriter& Comment(const std::string& text) { return Raw(";" + text); }
+  ScrambledWriter& Blank() { return Raw(""); }
+  ScrambledWriter& Marker() { return Raw(SimpleCrypt("<XT>")); }
+  // Stored as given, not scrambled, with CR LF behind.
+  ScrambledWriter& Raw(const std::string& bytes) {
+    mBytes += bytes + "\r\n";
+    return *this;
+  }
+  ScrambledWriter& NoFinalLineEnd() {
+    mBytes.resize(mBytes.size() - 2);
+    return *this;
+  }
 
   const std::string& Bytes() const { return mBytes; }
 

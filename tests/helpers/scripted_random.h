@@ -2,6 +2,7 @@
 // reseeds. Past the end of the script it repeats the last value (or 0).
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -11,11 +12,14 @@ namespace jeerbox::testing {
 
 class ScriptedRandom : public IRandomSource {
  public:
-  explicit ScriptedRandom(std::vector<float> values = {});  // installs itself
-  ~ScriptedRandom() override;
+  explicit ScriptedRandom(std::vector<float> values = {}) : mValues(std::move(values)) {}  // in place
+  ~ScriptedRandom() override { SetRandomSource(mPrevious); }
 
   void Push(float value) { mValues.push_back(value); }
-  float Next() override;
+  float Next() override {
+    ++mDraws;
+    return mValues.empty() ? 0.0f : mValues[std::min(mNext++, mValues.size() - 1)];
+  }
   void Reseed() override { ++mReseeds; }
 
   int Draws() const { return mDraws; }
@@ -26,7 +30,7 @@ class ScriptedRandom : public IRandomSource {
   size_t mNext = 0;
   int mDraws = 0;
   int mReseeds = 0;
-  IRandomSource* mPrevious;
+  IRandomSource* mPrevious = SetRandomSource(this);
 };
 
 // The value that makes floor(value * n) pick index i of n.

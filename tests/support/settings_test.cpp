@@ -1,74 +1,127 @@
-#include "support/CSettings.h"
-
+// Settings as the program reads them, through the portable profile reader
+// and writer, which read profile files as Windows does.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
 #include "helpers/fake_file_system.h"
+#include "helpers/temp_dir.h"
+#include "support/CSettings.h"
 #include "support/globals.h"
+#include "support/profile_file.h"
 
 namespace jeerbox {
 namespace {
 
-const char* const kConfig = "C:\\app\\UserInfo\\Tallowick.cfg";
-
-class SettingsTest : public ::testing::Test {
- protected:
-  void SetUp() override { gAppPath = "C:\\app"; }
-  testing::FakeFileSystem mFiles;
-};
-
-TEST_F(SettingsTest, FileLiesUnderUserInfo) { EXPECT_EQ(CSettings().ConfigFile(), kConfig); }
-
-TEST_F(SettingsTest, MissingFileReadsBothSwitchesAsTrue) {
+TEST(CSettings, ReadsSectionTWAndGivesTheDefaultForMissingOrEmpty) {
+  testing::FakeFileSystem files;
+  gAppPath = "C:\\app";
   const CSettings settings;
-  EXPECT_EQ(settings.ReadSetting("EnableFX", true), "True");
-  EXPECT_EQ(settings.ReadSetting("EnableMusic", true), "True");
-  EXPECT_TRUE(SettingToBoolean(settings.ReadSetting("EnableFX", true), false));
-  EXPECT_EQ(settings.ReadSetting("Other", false), "False");
-  EXPECT_EQ(settings.ReadSetting("Other", "x"), "x");
-}
-
-TEST_F(SettingsTest, ReadsSectionTWWithoutRegardToCase) {
-  mFiles.Write(kConfig, "[Other]\r\nEnableFX=one\r\n[tw]\r\nenablefx = False \r\nEnableMusic=\r\n");
-  const CSettings settings;
-  EXPECT_EQ(settings.ReadSetting("EnableFX", true), "False");
-  // Present but empty reads as absent.
-  EXPECT_EQ(settings.ReadSetting("EnableMusic", true), "True");
-}
-
-TEST_F(SettingsTest, LongValueIsCutTo2047Characters) {
-  const std::string value(5000, 'v');
-  mFiles.Write(kConfig, "[TW]\nLong=" + value + "\n");
-  EXPECT_EQ(CSettings().ReadSetting("Long", ""), value.substr(0, 2047));
-}
-
-TEST_F(SettingsTest, WriteSettingGoesToSectionTWAndReadsBack) {
-  const CSettings settings;
-  settings.WriteSetting("EnableFX", "False");
-  EXPECT_EQ(settings.ReadSetting("EnableFX", true), "False");
-  EXPECT_EQ(CSettings::ReadGeneralSetting(kConfig, "TW", "EnableFX", "x"), "False");
-  EXPECT_EQ(CSettings::ReadGeneralSetting(kConfig, "Other", "EnableFX", "x"), "x");
-}
-
-TEST_F(SettingsTest, ReadGeneralSettingTakesFileAndSectionFromTheCaller) {
-  mFiles.Write("C:\\else.ini", "[Audio]\r\nVolume=\"7\"\r\n");
-  EXPECT_EQ(CSettings::ReadGeneralSetting("C:\\else.ini", "AUDIO", "volume", "0"), "7");
-  EXPECT_EQ(CSettings::ReadGeneralSetting("C:\\else.ini", "TW", "Volume", "0"), "0");
-}
-
-TEST(SettingToBoolean, TakesWordsInAnyCaseAndNumbers) {
-  for (const char* text :
-       {"True", "TRUE", "true", "tRuE", " true ", "1", "-1", "+2", "0.5", ".5", "1e3", "10", "-0.01"})
-    EXPECT_TRUE(SettingToBoolean(text, false)) << text;
-  for (const char* text : {"False", "FALSE", "false", "0", "-0", "0.000", "0e5", " 0 ", "00"})
-    EXPECT_FALSE(SettingToBoolean(text, true)) << text;
-}
-
-TEST(SettingToBoolean, OtherTextGivesTheFallback) {
-  for (const char* text :
-       {"", "yes", "no", "on", "1abc", "nan", "inf", "0x10", ".", "-", "1e", "1.2.3", "tru", "true1"}) {
-    EXPECT_TRUE(SettingToBoolean(text, true)) << text;
-    EXPECT_FALSE(SettingToBoolean(text, false)) << text;
+  // Rows: file ("" for none), EnableFX read.
+  const std::pair<const char*, const char*> rows[] = {
+      {"", "True"},
+      {"[TW]\r\nEnableFX=\r\n", "True"},
+      {"[Other]\r\nEnableFX=one\r\n[TW]\r\nEnableFX=False\r\n", "False"}};
+  for (const auto& [file, read] : rows) {
+    files.Remove(settings.ConfigFile());
+    if (*file != '\0') files.Write(settings.ConfigFile(), file);
+    EXPECT_EQ(settings.ReadSetting("EnableFX", true), read) << file;
   }
+  files.Write(settings.ConfigFile(), "[TW]\nLong=" + std::string(5000, 'v') + "\n");
+  EXPECT_EQ(settings.ReadSetting("Long", ""), std::string(2047, 'v'));  // as the 2048 buffer holds it
+  settings.WriteSetting("EnableFX", "False");
+  EXPECT_EQ(CSettings::ReadGeneralSetting(settings.ConfigFile(), "TW", "EnableFX", "x"), "False");
+  EXPECT_EQ(CSettings::ReadGeneralSetting(settings.ConfigFile(), "Other", "EnableFX", "x"), "x");
+}
+
+TEST(SettingToBoolean, TakesWordsInAnyCaseAndNumbersElseTheFallback) {
+  for (const char* text : {"True", "tRuE", " true ", "1", "-1", "+2", "0.5", ".5", "1e3", "10", "-0.01"})
+    EXPECT_TRUE(SettingToBoolean(text, false)) << text;
+  for (const char* text : {"False", "FALSE", "0", "-0", "0.000", "0e5", " 0 ", "00"})
+    EXPECT_FALSE(SettingToBoolean(text, true)) << text;
+  for (const char* text : {"", "yes", "1abc", "nan", "inf", "0x10", ".", "-", "1e", "1.2.3", "tru", "true1"})
+    EXPECT_TRUE(SettingToBoolean(text, true) && !SettingToBoolean(text, false)) << text;
+}
+
+const char* const kFile = "C:\\app\\UserInfo\\Tallowick.cfg";
+
+// The value as the profile function leaves it in a buffer, default "d".
+std::string Get(const std::string& section, const std::string& key) {
+  std::string buffer(2048, '#');
+  const int length =
+      PortableProfile().GetPrivateProfileStringA(section, key, "d", buffer.data(), 2048, kFile);
+  EXPECT_EQ(buffer[static_cast<size_t>(length)], '\0');
+  return buffer.substr(0, static_cast<size_t>(length));
+}
+
+TEST(PortableProfile, ReadsAsWindowsDoes) {
+  testing::FakeFileSystem files;
+  const std::string quotes = "[TW]\nA=\"quoted\"\nB='single'\nC=\"mixed'\nD=\"\nE=\"\"\nF= \" padded \" \n";
+  // Rows: file, section, key, read.
+  const std::tuple<std::string, const char*, const char*, const char*> rows[] = {
+      {"", "TW", "EnableFX", "d"},
+      {"[Other]\r\nEnableFX=1\r\n", "TW", "EnableFX", "d"},
+      {"[Other]\r\nEnableFX=1\r\n", "Other", "Missing", "d"},
+      {"EnableFX=1\r\n", "TW", "EnableFX", "d"},  // in front of any section: in none
+      {"[tW]\r\nENABLEfx=yes\r\n", "tw", "EnableFX", "yes"},
+      {"  [ TW ]  \r   EnableFX \t =  a b c \t\n", "TW", "EnableFX", "a b c"},
+      {"\xef\xbb\xbf[TW]\nEnableFX=1\n", "TW", "EnableFX", "1"},
+      {quotes, "TW", "A", "quoted"},
+      {quotes, "TW", "B", "single"},
+      {quotes, "TW", "C", "\"mixed'"},
+      {quotes, "TW", "D", "\""},
+      {quotes, "TW", "E", ""},
+      {quotes, "TW", "F", " padded "},
+      {"\xff\xfe junk\r\n[TW]\r\n=x\r\n;EnableFX=no\r\nno equals\r\n]odd[\r\nEnableFX=True\r\n", "TW",
+       "EnableFX", "True"},
+      {"[TW]\r\n;EnableFX=no\r\n", "TW", ";EnableFX", "d"},
+      {"[TW]\nA=1\nA=2\n[Other]\nA=3\n[TW]\nA=4\nB=5\n", "TW", "A", "1"},
+      {"[TW]\nA=1\n[TW]\nB=5\n", "TW", "B", "d"}};
+  for (const auto& [file, section, key, read] : rows) {
+    files.Remove(kFile);
+    if (!file.empty()) files.Write(kFile, file);
+    EXPECT_EQ(Get(section, key), read) << file << " " << key;
+  }
+}
+
+TEST(PortableProfile, WriteChangesOneLineAndKeepsTheRest) {
+  testing::FakeFileSystem files;
+  // Rows: before ("" for no file), after.
+  const std::pair<const char*, const char*> rows[] = {
+      {"", "[TW]\r\nEnableFX=False\r\nNew=v\r\n\r\n[Third]\r\nK=w\r\n"},
+      {"; by hand\r\n[Other]\r\nEnableFX=7\r\n\r\n[tw]\r\n  enablefx = True \r\nX=1\r\n\r\n",
+       "; by hand\r\n[Other]\r\nEnableFX=7\r\n\r\n[tw]\r\nEnableFX=False\r\nX=1\r\n"
+       "New=v\r\n\r\n[Third]\r\nK=w\r\n"}};
+  for (const auto& [before, after] : rows) {
+    files.Remove(kFile);
+    if (*before != '\0') files.Write(kFile, before);
+    for (const auto& [section, key, value] :
+         {std::tuple("TW", "EnableFX", "False"), {"TW", "New", "v"}, {"Third", "K", "w"}})
+      EXPECT_TRUE(PortableProfile().WritePrivateProfileStringA(section, key, value, kFile));
+    EXPECT_EQ(files.Contents(kFile), after);
+  }
+  files.AddUnreadable(kFile);  // a file it can't read, it doesn't replace
+  EXPECT_FALSE(PortableProfile().WritePrivateProfileStringA("TW", "A", "1", kFile));
+}
+
+// A new file takes the old one's place: a second name of the old file keeps
+// the old contents, and no temporary file stays.
+TEST(PortableProfile, WriteReplacesTheFileOnDiskWhole) {
+  testing::TempDir dir;
+  dir.Write("UserInfo/Tallowick.cfg", "[TW]\nEnableFX=True\n");
+  std::filesystem::create_hard_link(dir.Path() + "/UserInfo/Tallowick.cfg", dir.Path() + "/old.cfg");
+  ASSERT_TRUE(PortableProfile().WritePrivateProfileStringA("TW", "EnableFX", "False",
+                                                           dir.Path() + "\\UserInfo\\Tallowick.cfg"));
+  const auto read = [&](const std::string& name) {
+    std::stringstream text;
+    text << std::ifstream(dir.Path() + name, std::ios::binary).rdbuf();
+    return text.str();
+  };
+  EXPECT_EQ(read("/UserInfo/Tallowick.cfg"), "[TW]\r\nEnableFX=False\r\n");
+  EXPECT_EQ(read("/old.cfg"), "[TW]\nEnableFX=True\n");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path() + "/UserInfo"), {}), 1);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-#include "helpers/memory_file_system.h"
+#include "helpers/fake_file_system.h"
 #include "support/globals.h"
 #include "text/CTextGenerator.h"
 #include "text/MSimpleCrypto.h"
@@ -106,12 +106,12 @@ TEST(SimpleCrypt, ScramblesAsTheFormatSaysAtEveryLength) {
 // missing, unless marked text is barred and the file holds the marker; in
 // it a whole-file search for the stored key, and the text from the second
 // byte behind it up to the CR of the next CR LF "[".
-std::vector<std::string> ReferenceKeyLines(const MemoryFileSystem& fs, const std::string& key) {
+std::vector<std::string> ReferenceKeyLines(testing::FakeFileSystem& fs, const std::string& key) {
   const std::string stored = Scramble(key);
   std::vector<std::string> lines;
   for (int n = 1; n <= kMaxFileNumber; ++n) {
     const std::string path = CTextGenerator::BuildTextFileName(key, n);
-    if (fs.Files().count(path) == 0) break;
+    if (!fs.FileExists(path)) break;
     const std::string bytes = fs.Contents(path);
     if (!gAllowMarkedText && bytes.find(Scramble("<XT>")) != std::string::npos) continue;
     const size_t match = bytes.find(stored);
@@ -167,7 +167,7 @@ TEST(TextStore, ReadsEveryKeyAsThePlainReaderDoes) {
   for (int seed = 0; seed < 400; ++seed) {
     std::vector<std::string> keys = families[seed % 2];
     const std::string family = KeyFamily(keys[0]);
-    MemoryFileSystem fs;
+    testing::FakeFileSystem fs;
     const int files = 1 + seed % 4;
     for (int n = 1; n <= files + 2; ++n)  // the last behind a gap, never read
       if (n != files + 1)

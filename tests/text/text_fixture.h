@@ -15,10 +15,7 @@ namespace jeerbox::testing {
 
 class TextStoreTest : public ::testing::Test {
  protected:
-  TextStoreTest() {
-    gAppPath = "C:\\app";
-    gAllowMarkedText = true;
-  }
+  TextStoreTest() { gAppPath = "C:\\app"; }
   ~TextStoreTest() override { gAllowMarkedText = true; }
 
   static std::string SystemFile(const std::string& name) { return "C:\\app\\System\\" + name; }
@@ -26,15 +23,12 @@ class TextStoreTest : public ::testing::Test {
     fs.Write(SystemFile(name), writer.Bytes());
   }
   // One file holding one section per key.
-  void WriteLists(const std::string& name,
-                  const std::vector<std::pair<std::string, std::vector<std::string>>>& lists) {
-    ScrambledWriter writer;
-    for (const auto& [key, lines] : lists) writer.Section(key).Lines(lines);
-    WriteFile(name, writer);
+  void WriteLists(const std::string& name, const KeyLines& lists) {
+    WriteFile(name, ScrambledWriter().Sections(lists));
   }
   // The key's line list, unscrambled.
-  std::vector<std::string> Lines(const std::string& key) {
-    CTextGenerator generator;
+  static std::vector<std::string> Lines(const std::string& key) {
+    CTextGenerator generator;  // holds the files the lines point into
     std::vector<std::string> out;
     for (std::string_view line : generator.GetCacheItem(key)) out.push_back(SimpleCrypt(line));
     return out;

@@ -1,4 +1,8 @@
+// The two template passes: named tokens, then brace choices, and the bounds
+// that keep a pick small whatever its lines hold.
 #include <gtest/gtest.h>
+
+#include <array>
 
 #include "text/CTextUtils.h"
 #include "text/shorthand.h"
@@ -7,124 +11,69 @@
 namespace jeerbox::testing {
 namespace {
 
-class TokenTest : public TextStoreTest {
- protected:
-  static std::string Game(const std::string& text, const std::string& city = "",
-                          const std::string& player = "") {
-    return CTextUtils::ParseGameTokens(text, city, player, "", "");
+using TokenTest = TextStoreTest;
+
+const char* const kShorthandKeys[] = {"General-Character", "General-Insult", "General-Curse",
+                                      "General-Exclaim", "General-AutoDealer"};
+
+// Five lines a key ("Ch0".."Ch4", "In0"...), so each pick shows which draw it took.
+TEST_F(TokenTest, NamedTokensAreReplacedInTableOrderEachLookedUpOnce) {
+  KeyLines lists;
+  for (const char* key : kShorthandKeys) {
+    lists.push_back({key, {}});
+    for (int i = 0; i < 5; ++i) lists.back().second.push_back(std::string(key + 8, 2) + std::to_string(i));
   }
-};
-
-TEST_F(TokenTest, PlainTextPassesUnchangedAndDrawsNothing) {
-  EXPECT_EQ(Game("no tokens at all"), "no tokens at all");
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("a } b"), "a } b");
-  EXPECT_EQ(random.Draws(), 0);
-}
-
-TEST_F(TokenTest, UnknownTokensStayAndEmptyValuesKeepTheirBlanks) {
-  EXPECT_EQ(Game("x <Nobody> y"), "x <Nobody> y");
-  EXPECT_EQ(Game("in <City> now"), "in  now");
-  EXPECT_EQ(Game("<city> is case sensitive"), "<city> is case sensitive");
-}
-
-TEST_F(TokenTest, ATokenIsLookedUpOnceForAllItsOccurrences) {
-  WriteLists("General.001", {{"General-Insult", {"turnip", "parsnip"}}});
-  random.Push(PickIndex(1, 2));
-  random.Push(PickIndex(0, 2));
-  EXPECT_EQ(Game("<Insult> and <Insult>"), "parsnip and parsnip");
-  EXPECT_EQ(random.Draws(), 1);
-}
-
-TEST_F(TokenTest, AValueIsExpandedByTheTokensBelowItButNotAbove) {
-  WriteLists("General.001", {{"General-Insult", {"a <Curse> b <RandomChar>"}},
-                             {"General-Curse", {"blast"}},
-                             {"General-Character", {"Pip"}}});
-  // The fetched insult expands its own tokens in its own pick.
-  EXPECT_EQ(Game("<Insult>"), "a blast b Pip");
-  // City is handled before Insult, so a City value's <Insult> expands...
-  EXPECT_EQ(Game("<City>", "<Curse>"), "blast");
-  // ...but a token above the one that brought it in does not.
-  EXPECT_EQ(Game("<Player>", "Paris", "<City>"), "<City>");
-}
-
-TEST_F(TokenTest, AMissingFamilyBringsTheFixedText) {
-  EXPECT_EQ(Game("Oh <Exclaim>"), std::string("Oh ") + kMissingFilesText);
-}
-
-// Lists written to explode: tokens that fetch themselves, replacements and
-// lines past the length bound. A pick ends with a bounded text, its choices
-// resolved within the work it may spend, and all its lookups read the
-// family once.
-TEST_F(TokenTest, ExpansionStaysWithinItsBounds) {
-  std::string many;
-  for (int i = 0; i < 1000; ++i) many += "<Insult>";
-  const struct {
-    const char* name;
-    std::string line;    // the pick's, a General-Curse line
-    std::string insult;  // what <Insult> fetches
-    int reads;           // of General.001: the pick's, and its lookups'
-  } rows[] = {
-      {"self-fetching", "<Insult>", "<Insult> <Insult> <Curse>", 2},
-      {"a thousand long values", "{a/b}" + many, std::string(32000, 'x'), 2},
-      {"a long line", std::string(40000, 'x') + "{z}", "", 1},
-  };
-  for (const auto& row : rows) {
-    WriteLists("General.001", {{"General-Curse", {row.line}}, {"General-Insult", {row.insult}}});
-    fs.ClearLog();
-    const std::string text = CTextGenerator().GetText("General-Curse");
-    EXPECT_EQ(text.find_first_of("<{"), std::string::npos) << row.name;
-    EXPECT_LE(text.size(), kMaxTextLength) << row.name;
-    EXPECT_EQ(fs.Reads(SystemFile("General.001")), row.reads) << row.name;
+  WriteLists("General.001", lists);
+  // Text, then city, player, weapon and rating, the picks of the lookups, the result.
+  using Row = std::tuple<std::string, std::array<const char*, 4>, std::vector<int>, const char*>;
+  const Row rows[] = {{"no tokens at all", {"", "", "", ""}, {}, "no tokens at all"},
+                      {"x <Nobody> <city> y", {"", "", "", ""}, {}, "x <Nobody> <city> y"},
+                      {"in <City> now", {"", "", "", ""}, {}, "in  now"},
+                      {"<AutoDealer> <Exclaim> <Curse> <Insult> <RandomChar>",
+                       {"", "", "", ""},
+                       {0, 1, 2, 3, 4},
+                       "Au4 Ex3 Cu2 In1 Ch0"},
+                      {"<Insult> and <Insult>", {"", "", "", ""}, {3}, "In3 and In3"},
+                      // A value is subject to the tokens below its own, not to those above.
+                      {"<City>", {"<Player>", "P", "", ""}, {}, "P"},
+                      {"<Player>", {"C", "<City>", "", ""}, {}, "<City>"},
+                      {"<Weapon>", {"", "", "<Rating>", "R"}, {}, "R"},
+                      {"<Rating>", {"", "", "W", "<Weapon>"}, {}, "<Weapon>"},
+                      {"<Rating>", {"", "", "", "<Curse>"}, {2}, "Cu2"}};
+  for (const auto& [text, values, picks, expected] : rows) {
+    ScriptedRandom script;
+    for (int pick : picks) script.Push(PickIndex(pick, 5));
+    EXPECT_EQ(CTextUtils::ParseGameTokens(text, values[0], values[1], values[2], values[3]), expected)
+        << text;
+    EXPECT_EQ(script.Draws(), static_cast<int>(picks.size())) << text;
   }
+  fs.Remove(SystemFile("General.001"));
+  EXPECT_EQ(CTextUtils::ParseGameTokens("Oh <Exclaim>", "", "", "", ""),
+            std::string("Oh ") + kMissingFilesText);
 }
 
-TEST_F(TokenTest, TokensNestAndFetchNoFurtherThanTheirBounds) {
-  WriteLists("General.001", {{"General-Insult", {"a<Insult>"}}});
-  EXPECT_EQ(Game("<Insult>"), std::string(kMaxTokenDepth, 'a'));
-  const std::string all = "<RandomChar><Insult><Curse><Exclaim><AutoDealer>";
-  WriteLists("General.001", {{"General-Character", {all}},
-                             {"General-Insult", {all}},
-                             {"General-Curse", {all}},
-                             {"General-Exclaim", {all}},
-                             {"General-AutoDealer", {all}}});
-  const int before = random.Draws();
-  Game("<Insult>");
-  EXPECT_EQ(random.Draws() - before, kMaxTokenLookups);  // one pick, one draw, per lookup
-}
-
-TEST_F(TokenTest, SpentWorkLeavesTheRestOfTheChoices) {
-  std::string text(25000, 'x');
-  for (int i = 0; i < 1000; ++i) text += "{" + std::to_string(i) + "}";
-  EXPECT_NE(CTextUtils::ParseInlineTokens(text).find('{'), std::string::npos);
-  EXPECT_LT(random.Draws(), 1000);
-}
-
-TEST_F(TokenTest, AChoicePicksOneOptionAsItStands) {
-  random.Push(PickIndex(1, 3));
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("a {red/ green /blue} hat"), "a  green  hat");
-  random.Push(0.0f);
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("{only}!"), "only!");
-  random.Push(PickIndex(1, 2));
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("x{word/}y"), "xy");
-  random.Push(PickIndex(0, 2));
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("{/}"), "");
-}
-
-TEST_F(TokenTest, IdenticalChoicesResolveAlikeInOnePass) {
-  random.Push(PickIndex(0, 2));
-  random.Push(PickIndex(1, 2));
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("{a/b} {a/b} {c/d}"), "a a d");
-  EXPECT_EQ(random.Draws(), 2);
-}
-
-TEST_F(TokenTest, NestingIsNotAStructure) {
-  // The group is "{x/{y}": choosing "x" leaves the "}" behind.
-  random.Push(PickIndex(0, 2));
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("{x/{y}}"), "x}");
-  // Choosing "{y" brings a "{" in: the next pass takes "{y}" as a group.
-  random.Push(PickIndex(1, 2));
-  random.Push(0.0f);
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("{x/{y}}"), "y");
+// Every pass draws once; nesting is no structure: "{x/{y}}" is the group
+// "{x/{y}", and an option that brings a "{" in starts the next pass's group.
+TEST_F(TokenTest, AChoiceTakesTheDrawnOptionAsItStandsForEveryCopyOfItself) {
+  // Rows: text, draws, result.
+  const std::tuple<const char*, std::vector<float>, const char*> rows[] = {
+      {"a } b", {}, "a } b"},
+      {"a {red/ green /blue} hat", {PickIndex(1, 3)}, "a  green  hat"},
+      {"{only}!", {0.9f}, "only!"},
+      {"x{word/}y", {PickIndex(1, 2)}, "xy"},
+      {"{/}", {0}, ""},
+      {"{a/b} {a/b} {c/d}", {PickIndex(0, 2), PickIndex(1, 2)}, "a a d"},
+      {"{x/{y}}", {PickIndex(0, 2)}, "x}"},
+      {"{x/{y}}", {PickIndex(1, 2), 0}, "y"},
+      {"open { never closed", {}, "open { never closed"},
+      {"} then {a}", {0}, "} then a"},
+      {"empty {} braces", {0}, "empty  braces"},
+      {"{a/b} then {", {0}, "a then {"}};
+  for (const auto& [text, draws, expected] : rows) {
+    ScriptedRandom script(draws);
+    EXPECT_EQ(CTextUtils::ParseInlineTokens(text), expected) << text;
+    EXPECT_EQ(script.Draws(), static_cast<int>(draws.size())) << text;
+  }
 }
 
 TEST_F(TokenTest, AThousandPassesAndNoMore) {
@@ -132,16 +81,8 @@ TEST_F(TokenTest, AThousandPassesAndNoMore) {
   for (int i = 0; i < 1001; ++i) text += "{" + std::to_string(i) + "}";
   const std::string resolved = CTextUtils::ParseInlineTokens(text);
   EXPECT_EQ(resolved.substr(resolved.size() - 7), "9{1000}");
-  EXPECT_EQ(random.Draws(), 1000);
   text.resize(text.size() - 6);  // exactly 1000 choices
   EXPECT_EQ(CTextUtils::ParseInlineTokens(text).find('{'), std::string::npos);
-}
-
-TEST_F(TokenTest, MalformedChoicesNeverStopOrHang) {
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("open { never closed"), "open { never closed");
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("} then {a}"), "} then a");
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("empty {} braces"), "empty  braces");
-  EXPECT_EQ(CTextUtils::ParseInlineTokens("{a/b} then {"), "a then {");
 }
 
 TEST_F(TokenTest, ATokenInsideAnOptionIsFetchedBeforeTheChoice) {
@@ -150,9 +91,47 @@ TEST_F(TokenTest, ATokenInsideAnOptionIsFetchedBeforeTheChoice) {
   random.Push(0.0f);   // the outer pick
   random.Push(0.0f);   // the curse's pick
   random.Push(0.75f);  // the choice: second of "{x/y}"
-  CTextGenerator generator;
   // The fetched "/" and "}" count like written ones: the group is "{x/y}".
-  EXPECT_EQ(generator.GetText("Misc-A"), "y/z}");
+  EXPECT_EQ(CTextGenerator().GetText("Misc-A"), "y/z}");
+}
+
+// Lists written to explode: tokens that fetch themselves, long values and
+// lines past the length bound. A pick ends with a bounded text, and all
+// its lookups read the family once.
+TEST_F(TokenTest, ExpansionStaysWithinItsBounds) {
+  std::string many;
+  for (int i = 0; i < 1000; ++i) many += "<Insult>";
+  const std::tuple<std::string, std::string, int> rows[] = {// a Curse line, the Insult line, reads
+                                                            {"<Insult>", "<Insult> <Insult> <Curse>", 2},
+                                                            {"{a/b}" + many, std::string(32000, 'x'), 2},
+                                                            {std::string(40000, 'x') + "{z}", "", 1}};
+  for (const auto& [curse, insult, reads] : rows) {
+    WriteLists("General.001", {{"General-Curse", {curse}}, {"General-Insult", {insult}}});
+    fs.ClearLog();
+    const std::string text = CTextGenerator().GetText("General-Curse");
+    EXPECT_EQ(text.find_first_of("<{"), std::string::npos) << insult.substr(0, 9);
+    EXPECT_LE(text.size(), kMaxTextLength) << insult.substr(0, 9);
+    EXPECT_EQ(fs.Reads(SystemFile("General.001")), reads) << insult.substr(0, 9);
+  }
+}
+
+TEST_F(TokenTest, TokensNestAndFetchNoFurtherThanTheirBounds) {
+  WriteLists("General.001", {{"General-Insult", {"a<Insult>"}}});
+  EXPECT_EQ(CTextUtils::ParseGameTokens("<Insult>", "", "", "", ""), std::string(kMaxTokenDepth, 'a'));
+  KeyLines lists;
+  for (const char* key : kShorthandKeys)
+    lists.push_back({key, {"<RandomChar><Insult><Curse><Exclaim><AutoDealer>"}});
+  WriteLists("General.001", lists);
+  const int before = random.Draws();
+  CTextUtils::ParseGameTokens("<Insult>", "", "", "", "");
+  EXPECT_EQ(random.Draws() - before, kMaxTokenLookups);  // one pick, one draw, per lookup
+}
+
+TEST_F(TokenTest, SpentWorkLeavesTheRestOfTheChoices) {
+  std::string text(25000, 'x');
+  for (int i = 0; i < 1000; ++i) text += "{" + std::to_string(i) + "}";
+  EXPECT_NE(CTextUtils::ParseInlineTokens(text).find('{'), std::string::npos);
+  EXPECT_LT(random.Draws(), 1000);
 }
 
 }  // namespace
