@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "helpers/fake_file_system.h"
+#include "helpers/profile_rows.h"
 #include "helpers/temp_dir.h"
 #include "support/CSettings.h"
 #include "support/globals.h"
@@ -47,42 +48,15 @@ TEST(SettingToBoolean, TakesWordsInAnyCaseAndNumbersElseTheFallback) {
 
 const char* const kFile = "C:\\app\\UserInfo\\Tallowick.cfg";
 
-// The value as the profile function leaves it in a buffer, default "d".
-std::string Get(const std::string& section, const std::string& key) {
-  std::string buffer(2048, '#');
-  const int length =
-      PortableProfile().GetPrivateProfileStringA(section, key, "d", buffer.data(), 2048, kFile);
-  EXPECT_EQ(buffer[static_cast<size_t>(length)], '\0');
-  return buffer.substr(0, static_cast<size_t>(length));
-}
-
+// The table Windows' own reader is held to as well (under Wine).
 TEST(PortableProfile, ReadsAsWindowsDoes) {
   testing::FakeFileSystem files;
-  const std::string quotes = "[TW]\nA=\"quoted\"\nB='single'\nC=\"mixed'\nD=\"\nE=\"\"\nF= \" padded \" \n";
-  // Rows: file, section, key, read.
-  const std::tuple<std::string, const char*, const char*, const char*> rows[] = {
-      {"", "TW", "EnableFX", "d"},
-      {"[Other]\r\nEnableFX=1\r\n", "TW", "EnableFX", "d"},
-      {"[Other]\r\nEnableFX=1\r\n", "Other", "Missing", "d"},
-      {"EnableFX=1\r\n", "TW", "EnableFX", "d"},  // in front of any section: in none
-      {"[tW]\r\nENABLEfx=yes\r\n", "tw", "EnableFX", "yes"},
-      {"  [ TW ]  \r   EnableFX \t =  a b c \t\n", "TW", "EnableFX", "a b c"},
-      {"\xef\xbb\xbf[TW]\nEnableFX=1\n", "TW", "EnableFX", "1"},
-      {quotes, "TW", "A", "quoted"},
-      {quotes, "TW", "B", "single"},
-      {quotes, "TW", "C", "\"mixed'"},
-      {quotes, "TW", "D", "\""},
-      {quotes, "TW", "E", ""},
-      {quotes, "TW", "F", " padded "},
-      {"\xff\xfe junk\r\n[TW]\r\n=x\r\n;EnableFX=no\r\nno equals\r\n]odd[\r\nEnableFX=True\r\n", "TW",
-       "EnableFX", "True"},
-      {"[TW]\r\n;EnableFX=no\r\n", "TW", ";EnableFX", "d"},
-      {"[TW]\nA=1\nA=2\n[Other]\nA=3\n[TW]\nA=4\nB=5\n", "TW", "A", "1"},
-      {"[TW]\nA=1\n[TW]\nB=5\n", "TW", "B", "d"}};
-  for (const auto& [file, section, key, read] : rows) {
+  PortableProfile portable;
+  for (const testing::ProfileRow& row : testing::ProfileRows()) {
     files.Remove(kFile);
-    if (!file.empty()) files.Write(kFile, file);
-    EXPECT_EQ(Get(section, key), read) << file << " " << key;
+    if (!row.file.empty()) files.Write(kFile, row.file);
+    EXPECT_EQ(ReadProfileRow(portable, kFile, row), row.portable ? row.portable : row.windows)
+        << row.file << " " << row.key;
   }
 }
 
