@@ -1,4 +1,4 @@
-// The text store: the scrambler, sections as read from a file, the item
+// The text store: sections as read from a file, the item
 // cache, and the line lists and picks of a key over its family's files.
 #include <gtest/gtest.h>
 
@@ -13,13 +13,6 @@ namespace jeerbox::testing {
 namespace {
 
 using Strings = std::vector<std::string>;
-
-TEST(SimpleCrypt, XorsWithTheRepeatedKeyAndIsItsOwnInverse) {
-  EXPECT_EQ(SimpleCrypt("QUORVEMALQU"), std::string(11, '\0'));  // the key, and one past it starts over
-  const std::string text("Misc-Jeerbox-Noun \x92 pudding\0!", 29);
-  EXPECT_EQ(SimpleCrypt(SimpleCrypt(text)), text);
-  EXPECT_EQ(SimpleCrypt(""), "");
-}
 
 // A section runs from behind its head's "]" to the CR in front of the next
 // head; its pieces between CR LFs are data unless dropped in stored form.
