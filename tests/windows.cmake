@@ -29,7 +29,6 @@ add_executable(core_tests
   text/token_expansion_test.cpp
   compose/insult_composer_test.cpp
   sound/sound_test.cpp
-  app/fake_platform.cpp
   app/program_flow_test.cpp
 )
 target_link_libraries(core_tests PRIVATE jeerbox_test_helpers jeerbox_flow)

@@ -19,6 +19,8 @@ class RecordingAudioControl : public IAudioControl {
   void ClearLog() { mLog.clear(); }
   // Entries of the log that start with `prefix`.
   std::vector<std::string> Matching(const std::string& prefix) const;
+  // An entry of the test's own, so that other events share the timeline.
+  void Note(const std::string& event) { mLog.push_back(event); }
 
   // A failing call is still logged; it returns false (or no value).
   void Fail(const std::string& name) { mFailing.insert(name); }
