@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Formatting and static analysis: clang-format must have nothing to change
-# anywhere, clang-tidy nothing to say about the folders given (default: the
+# anywhere, the desktop entry, metainfo and manual pages must validate, and
+# clang-tidy must have nothing to say about the folders given (default: the
 # whole tree: src, tests, bench). Needs the compile database of a configured
 # build. Usage: scripts/lint.sh [BUILD_DIR] [FOLDER...]
 set -euo pipefail
@@ -11,6 +12,14 @@ if [ $# -gt 0 ]; then folders=("$@"); else folders=(src tests bench); fi
 
 echo "== clang-format"
 git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run -Werror
+
+echo "== desktop entry, metainfo, manual pages"
+desktop-file-validate data/desktop/jeerbox.desktop
+appstreamcli validate --no-net data/desktop/org.example.Jeerbox.metainfo.xml
+for page in "$build"/man/*.1; do
+  warnings=$(groff -man -ww -z "$page" 2>&1)
+  [ -z "$warnings" ] || { echo "$page: $warnings"; exit 1; }
+done
 
 echo "== clang-tidy: ${folders[*]}"
 # What is ours in the compile database; the fuzz targets build with clang
