@@ -1,8 +1,7 @@
 // jeer say, pick and lines: the composer and the text store from a terminal.
-#include <cerrno>
+// A sentence or line that can't be made is the fixed line, as in the
+// window; the command goes on with the next.
 #include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <string>
 
 #include "cli/commands.h"
@@ -10,7 +9,6 @@
 #include "compose/MJeerbox.h"
 #include "platform/file_system.h"
 #include "platform/process.h"
-#include "support/MSimpleIO.h"
 #include "support/failure.h"
 #include "support/globals.h"
 #include "support/random.h"
@@ -19,15 +17,6 @@
 
 namespace jeerbox {
 namespace {
-
-struct ComposeOptions {
-  std::string key;
-  std::string root;
-  uint64_t count = 1;
-  uint64_t seed = 0;
-  bool seeded = false;
-  bool escape = false;
-};
 
 void PrintLine(const std::string& text, bool escape) {
   const std::string out = escape ? EscapeBytes(text) : text;
@@ -46,38 +35,6 @@ void Prepare(const ComposeOptions& options) {
                  NativePath(gAppPath).c_str());
 }
 
-void AddRootOption(CLI::App* command, ComposeOptions* options) {
-  command->add_option("--root", options->root,
-                      "Program directory holding System/ (default: where jeer lies)");
-}
-
-// CLI11 would take "-1" for an unsigned number and wrap it around, and
-// saturate a number too large for 64 bits.
-bool FitsUnsigned64(const std::string& value) {
-  if (value.empty() || value.find_first_not_of("0123456789") != std::string::npos) return false;
-  errno = 0;
-  std::strtoull(value.c_str(), nullptr, 10);
-  return errno != ERANGE;
-}
-
-const CLI::Validator kWholeNumber(
-    [](std::string& value) {
-      return FitsUnsigned64(value) ? std::string() : "'" + value + "' is not a whole number from 0 to 2^64-1";
-    },
-    "N", "whole number");
-
-void AddDrawOptions(CLI::App* command, ComposeOptions* options) {
-  AddRootOption(command, options);
-  command->add_option("-n,--count", options->count, "How many to print (default 1)")->check(kWholeNumber);
-  command
-      ->add_option("--seed", options->seed,
-                   "Unsigned 64-bit seed: the same seed, data and build print the same")
-      ->check(kWholeNumber)
-      ->each([options](const std::string&) { options->seeded = true; });
-  command->add_flag("--escape", options->escape,
-                    "Show control and non-ASCII bytes as escapes (\\r, \\x92, ...)");
-}
-
 }  // namespace
 
 std::string ResolveRoot(const std::string& root) {
@@ -86,49 +43,34 @@ std::string ResolveRoot(const std::string& root) {
   return dir;
 }
 
-void AddComposeCommands(CLI::App& app, int* exitCode) {
-  auto options = std::make_shared<ComposeOptions>();
+int RunSay(const ComposeOptions& options) {
+  Prepare(options);
+  for (uint64_t i = 0; i < options.count; ++i)
+    PrintLine(ResultOr<std::string>(kMissingFilesText, GenerateInsult), options.escape);
+  return 0;
+}
 
-  CLI::App* say = app.add_subcommand("say", "Compose sentences, as \"Insult me\" does");
-  AddDrawOptions(say, options.get());
-  // A sentence or line that can't be made is the fixed line, as in the
-  // window; the command goes on with the next.
-  say->callback([options, exitCode] {
-    Prepare(*options);
-    for (uint64_t i = 0; i < options->count; ++i)
-      PrintLine(ResultOr<std::string>(kMissingFilesText, GenerateInsult), options->escape);
-    *exitCode = 0;
-  });
+int RunPick(const ComposeOptions& options) {
+  Prepare(options);
+  for (uint64_t i = 0; i < options.count; ++i) {
+    PrintLine(ResultOr<std::string>(kMissingFilesText,
+                                    [&] {
+                                      CTextGenerator generator;
+                                      generator.Setup(nullptr);
+                                      return generator.GetText(options.key);
+                                    }),
+              options.escape);
+  }
+  return 0;
+}
 
-  CLI::App* pick = app.add_subcommand("pick", "Pick random lines of one key, expanded");
-  pick->add_option("KEY", options->key, "Text key, such as Misc-Jeerbox-Noun")->required();
-  AddDrawOptions(pick, options.get());
-  pick->callback([options, exitCode] {
-    Prepare(*options);
-    for (uint64_t i = 0; i < options->count; ++i) {
-      PrintLine(ResultOr<std::string>(kMissingFilesText,
-                                      [&] {
-                                        CTextGenerator generator;
-                                        generator.Setup(nullptr);
-                                        return generator.GetText(options->key);
-                                      }),
-                options->escape);
-    }
-    *exitCode = 0;
+int RunLines(const ComposeOptions& options) {
+  Prepare(options);
+  IgnoringFailure([&] {
+    CTextGenerator generator;
+    for (std::string_view line : generator.GetCacheItem(options.key)) PrintLine(SimpleCrypt(line), true);
   });
-
-  CLI::App* lines =
-      app.add_subcommand("lines", "List a key's lines as read from the files, unscrambled and escaped");
-  lines->add_option("KEY", options->key, "Text key, such as General-Insult")->required();
-  AddRootOption(lines, options.get());
-  lines->callback([options, exitCode] {
-    Prepare(*options);
-    IgnoringFailure([&] {
-      CTextGenerator generator;
-      for (std::string_view line : generator.GetCacheItem(options->key)) PrintLine(SimpleCrypt(line), true);
-    });
-    *exitCode = 0;
-  });
+  return 0;
 }
 
 }  // namespace jeerbox
