@@ -18,7 +18,6 @@ function(jeerbox_windows_suite target)
     endif()
   endforeach()
 endfunction()
-target_compile_options(jeerbox_test_helpers PRIVATE -O0)
 
 # The shared code's own suites, as they stand for Linux.
 add_executable(core_tests

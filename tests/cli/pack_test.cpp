@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <sstream>
 
@@ -17,13 +16,12 @@
 namespace jeerbox::testing {
 namespace {
 
-// Every file of `dir`, name to bytes.
-std::map<std::string, std::string> DirContents(const std::string& dir) {
+// Every file of the folder `sub` of `dir`, name to bytes.
+std::map<std::string, std::string> DirContents(const TempDir& dir, const std::string& sub = ".") {
   std::map<std::string, std::string> files;
-  for (const auto& entry : std::filesystem::directory_iterator(dir)) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-    files[entry.path().filename().string()] = bytes.str();
+  for (const auto& entry : std::filesystem::directory_iterator(dir.Path() + "/" + sub)) {
+    const std::string name = entry.path().filename().string();
+    files[name] = dir.Read(sub + "/" + name);
   }
   return files;
 }
@@ -162,11 +160,11 @@ TEST(PackWrite, AllOrNothing) {
   dir.Write("sys/Misc.002/in the way", "");  // a directory where a file should go
   std::ostringstream out, err;
   EXPECT_EQ(RunPack(sources, system, out, err), 1);
-  EXPECT_EQ(DirContents(system).size(), 1u);
+  EXPECT_EQ(DirContents(dir, "sys").size(), 1u);
   dir.Write("src/Misc.001.txt", "[Misc-A]\nx\n");
   dir.Write("src/Misc.002.txt", "[Misc-B]\ny\n");
   EXPECT_EQ(RunPack(sources, system, out, err), 1);
-  const std::map<std::string, std::string> left = DirContents(system);
+  const std::map<std::string, std::string> left = DirContents(dir, "sys");
   EXPECT_EQ(left.size(), 2u);
   EXPECT_NE(left.find("Misc.001"), left.end());
 }
@@ -181,15 +179,15 @@ TEST(PackCommand, ReplacesTheFamiliesItPacksAndUnpacksThemBack) {
   const CommandRun run = RunJeer("pack " + sources.Path() + " " + target.Path() + "/System");
   EXPECT_EQ(run.exitCode, 0) << run.err;
   EXPECT_NE(run.out.find("1 key, 0 lines"), std::string::npos) << run.out;
-  std::map<std::string, std::string> after = DirContents(target.Path() + "/System");
+  std::map<std::string, std::string> after = DirContents(target, "System");
   EXPECT_EQ(after.count("Misc.002") + after.count("Misc.004"), 0u);
   EXPECT_EQ(after["Other.001"] + after["notes.txt"], "oldold");
   EXPECT_EQ(after["Misc.001"], Pack(kCanonical));
   TempDir unpacked;
   ASSERT_EQ(RunJeer("unpack " + target.Path() + "/System " + unpacked.Path()).exitCode, 0);
-  std::map<std::string, std::string> back = DirContents(unpacked.Path());
+  std::map<std::string, std::string> back = DirContents(unpacked);
   back.erase("Other.001.txt");  // unpacked too, from a family pack left alone
-  EXPECT_EQ(back, DirContents(sources.Path()));
+  EXPECT_EQ(back, DirContents(sources));
   target.Write("System/Misc.003", "after a gap");
   EXPECT_NE(RunJeer("unpack " + target.Path() + "/System " + unpacked.Path()).err.find("numbering has a gap"),
             std::string::npos);

@@ -47,16 +47,46 @@ class FakeFileSystem : public IFileSystem {
     mTouched.clear();
   }
 
-  bool FileExists(const std::string& path) override;
-  FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) override;
-  bool WriteFile(const std::string& path, const std::string& contents, std::string* error) override;
+  bool FileExists(const std::string& path) override {
+    mTouched.push_back(path);
+    return mFiles.count(path) > 0 || mUnreadable.count(path) > 0 || IsDirectory(path);
+  }
+  FileStatus ReadFile(const std::string& path, std::string* contents, size_t maxBytes) override {
+    mTouched.push_back(path);
+    contents->clear();
+    if (mUnreadable.count(path) || IsDirectory(path)) return FileStatus::kError;
+    auto it = mFiles.find(path);
+    if (it == mFiles.end()) return FileStatus::kNotFound;
+    if (it->second.size() > maxBytes) return FileStatus::kError;
+    *contents = it->second;
+    ++mReads[path];
+    return FileStatus::kOk;
+  }
+  bool WriteFile(const std::string& path, const std::string& contents, std::string* error) override {
+    mTouched.push_back(path);
+    if (mUnreadable.count(path)) return Denied(error);
+    mFiles[path] = contents;
+    return true;
+  }
   bool ListFiles(const std::string&, std::vector<std::string>*, std::string*) override { return false; }
   bool MakeDirectories(const std::string&, std::string*) override { return false; }
-  bool RenameFile(const std::string& from, const std::string& to, std::string* error) override;
+  bool RenameFile(const std::string& from, const std::string& to, std::string* error) override {
+    if (mFiles.count(from) == 0 || mUnreadable.count(to)) return Denied(error);
+    mFiles[to] = mFiles[from];
+    mFiles.erase(from);
+    return true;
+  }
   bool RemoveFile(const std::string& path, std::string*) override { return mFiles.erase(path) > 0; }
 
  private:
-  bool IsDirectory(const std::string& path) const;
+  bool IsDirectory(const std::string& path) const {
+    auto it = mFiles.lower_bound(path + "\\");
+    return it != mFiles.end() && it->first.compare(0, path.size() + 1, path + "\\") == 0;
+  }
+  static bool Denied(std::string* error) {
+    if (error) *error = "Permission denied";
+    return false;
+  }
 
   std::map<std::string, std::string> mFiles;
   std::set<std::string> mUnreadable;

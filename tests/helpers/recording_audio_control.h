@@ -18,7 +18,12 @@ class RecordingAudioControl : public IAudioControl {
   const std::vector<std::string>& Log() const { return mLog; }
   void ClearLog() { mLog.clear(); }
   // Entries of the log that start with `prefix`.
-  std::vector<std::string> Matching(const std::string& prefix) const;
+  std::vector<std::string> Matching(const std::string& prefix) const {
+    std::vector<std::string> found;
+    for (const std::string& entry : mLog)
+      if (entry.compare(0, prefix.size(), prefix) == 0) found.push_back(entry);
+    return found;
+  }
   // An entry of the test's own, so that other events share the timeline.
   void Note(const std::string& event) { mLog.push_back(event); }
 
@@ -28,7 +33,10 @@ class RecordingAudioControl : public IAudioControl {
   void SetMusicCanPause(bool value) { mCanPause = value; }
   void SetMusicCanResume(bool value) { mCanResume = value; }
 
-  bool OpenMixer(int32_t windowHandle, int32_t sampleRate, bool flag1, bool flag2) override;
+  bool OpenMixer(int32_t windowHandle, int32_t sampleRate, bool flag1, bool flag2) override {
+    return Call("OpenMixer", "(" + std::to_string(windowHandle) + "," + std::to_string(sampleRate) + "," +
+                                 (flag1 ? "true" : "false") + "," + (flag2 ? "true" : "false") + ")");
+  }
   bool ResetMixer() override { return Call("ResetMixer"); }
   bool CloseMusic() override { return Call("CloseMusic"); }
   bool CloseMixer() override { return Call("CloseMixer"); }
@@ -37,8 +45,12 @@ class RecordingAudioControl : public IAudioControl {
   bool StopMusic() override { return Call("StopMusic"); }
   bool PauseMusic() override { return Call("PauseMusic"); }
   bool ResumeMusic() override { return Call("ResumeMusic"); }
-  std::optional<bool> MusicCanPause() override;
-  std::optional<bool> MusicCanResume() override;
+  std::optional<bool> MusicCanPause() override {
+    return Call("MusicCanPause") ? std::optional(mCanPause) : std::nullopt;
+  }
+  std::optional<bool> MusicCanResume() override {
+    return Call("MusicCanResume") ? std::optional(mCanResume) : std::nullopt;
+  }
   bool SetChannel(int32_t channel) override { return Call("Channel", "=" + std::to_string(channel)); }
   bool SetChannelPan(int32_t pan) override { return Call("ChannelPan", "=" + std::to_string(pan)); }
   bool LoadChannel(const std::string& fileName) override { return Call("LoadChannel", "(" + fileName + ")"); }
@@ -47,7 +59,10 @@ class RecordingAudioControl : public IAudioControl {
   bool StopChannel() override { return Call("StopChannel"); }
 
  private:
-  bool Call(const std::string& name, const std::string& arguments = "");
+  bool Call(const std::string& name, const std::string& arguments = "") {
+    mLog.push_back(name + arguments);
+    return !mFailAll && mFailing.count(name) == 0;
+  }
 
   std::vector<std::string> mLog;
   std::set<std::string> mFailing;
@@ -57,6 +72,13 @@ class RecordingAudioControl : public IAudioControl {
 };
 
 // The calls of one stop sweep over channels 1 to 32.
-std::vector<std::string> SweepCalls();
+inline std::vector<std::string> SweepCalls() {
+  std::vector<std::string> calls;
+  for (int channel = 1; channel <= 32; ++channel) {
+    calls.push_back("Channel=" + std::to_string(channel));
+    calls.emplace_back("StopChannel");
+  }
+  return calls;
+}
 
 }  // namespace jeerbox::testing

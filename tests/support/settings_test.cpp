@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "helpers/fake_file_system.h"
 #include "helpers/profile_rows.h"
@@ -88,13 +86,8 @@ TEST(PortableProfile, WriteReplacesTheFileOnDiskWhole) {
   std::filesystem::create_hard_link(dir.Path() + "/UserInfo/Tallowick.cfg", dir.Path() + "/old.cfg");
   ASSERT_TRUE(PortableProfile().WritePrivateProfileStringA("TW", "EnableFX", "False",
                                                            dir.Path() + "\\UserInfo\\Tallowick.cfg"));
-  const auto read = [&](const std::string& name) {
-    std::stringstream text;
-    text << std::ifstream(dir.Path() + name, std::ios::binary).rdbuf();
-    return text.str();
-  };
-  EXPECT_EQ(read("/UserInfo/Tallowick.cfg"), "[TW]\r\nEnableFX=False\r\n");
-  EXPECT_EQ(read("/old.cfg"), "[TW]\nEnableFX=True\n");
+  EXPECT_EQ(dir.Read("UserInfo/Tallowick.cfg"), "[TW]\r\nEnableFX=False\r\n");
+  EXPECT_EQ(dir.Read("old.cfg"), "[TW]\nEnableFX=True\n");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path() + "/UserInfo"), {}), 1);
 }
 
