@@ -1,3 +1,5 @@
+// The line list and the text store against plain readings of the same
+// bytes: a CR LF split, and a whole-file search per key.
 #include "text/LineList.h"
 
 #include <gtest/gtest.h>
@@ -33,34 +35,6 @@ std::vector<std::string> ListedLines(const LineList& list) {
   std::vector<std::string> lines;
   for (size_t i = 0; i < list.size(); ++i) lines.emplace_back(list[i]);
   return lines;
-}
-
-// Text made mostly of the bytes that matter to the split, in every order.
-std::string RandomSection(std::mt19937& rng, size_t size) {
-  static const char kBytes[] = {'\r', '\n', '\r', '\n', ';', ' ', ' ', 'a', 'b', '[', '\0'};
-  std::uniform_int_distribution<size_t> pick(0, sizeof kBytes - 1);
-  std::uniform_int_distribution<int> kind(0, 3);
-  std::string text;
-  while (text.size() < size) {
-    if (kind(rng) == 0) {
-      text += "\r\n";
-    } else if (kind(rng) == 0) {
-      text += "word line " + std::to_string(text.size());
-    } else {
-      text += kBytes[pick(rng)];
-    }
-  }
-  return text;
-}
-
-TEST(LineList, AgreesWithThePlainSplitOnArbitraryText) {
-  std::mt19937 rng(12345);
-  for (int round = 0; round < 400; ++round) {
-    const std::string text = RandomSection(rng, static_cast<size_t>(round) * 23 % 3000);
-    LineList list;
-    list.AppendSection(text);
-    ASSERT_EQ(ListedLines(list), ReferenceLines(text)) << "round " << round;
-  }
 }
 
 TEST(LineList, IndexesAcrossSectionsAndCheckpoints) {
