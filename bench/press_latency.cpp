@@ -15,7 +15,7 @@
 #include "app/FJeerbox.h"
 #include "app/deployment.h"
 #include "app/qt/jeerbox_dialog.h"
-#include "helpers/silent_audio_control.h"
+#include "helpers/recording_audio_control.h"
 #include "sound/FDMC.h"
 #include "support/globals.h"
 
@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
   const int presses = argc > 2 ? std::atoi(argv[2]) : 10000;
 
   // A device that plays to nowhere: the audio form runs its whole path.
-  jeerbox::SilentAudioControl control;
+  jeerbox::testing::RecordingAudioControl control;
   jeerbox::FixedWaveDevices devices(1);
   jeerbox::FDMC fdmc(control, devices);
   jeerbox::gFDMC = &fdmc;

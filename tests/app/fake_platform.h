@@ -12,7 +12,6 @@
 #include "app/app_services.h"
 #include "app/jeerbox_view.h"
 #include "helpers/recording_audio_control.h"
-#include "helpers/silent_audio_control.h"
 #include "platform/clipboard.h"
 #include "platform/internet.h"
 #include "platform/message_box.h"

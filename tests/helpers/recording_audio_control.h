@@ -1,5 +1,6 @@
 // A mixer control that writes down every call with its arguments, so tests
-// can compare the orders of calls; any call can be made to fail.
+// can compare the orders of calls; any call can be made to fail. And a
+// fixed count of wave devices.
 #pragma once
 
 #include <optional>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "platform/audio_control.h"
+#include "platform/wave_devices.h"
 
 namespace jeerbox::testing {
 
@@ -82,3 +84,16 @@ inline std::vector<std::string> SweepCalls() {
 }
 
 }  // namespace jeerbox::testing
+
+namespace jeerbox {
+
+class FixedWaveDevices : public IWaveDevices {
+ public:
+  explicit FixedWaveDevices(unsigned count) : mCount(count) {}
+  unsigned waveOutGetNumDevs() override { return mCount; }
+
+ private:
+  unsigned mCount;
+};
+
+}  // namespace jeerbox

@@ -7,7 +7,6 @@
 #include "helpers/fake_file_system.h"
 #include "helpers/recording_audio_control.h"
 #include "helpers/scripted_random.h"
-#include "helpers/silent_audio_control.h"
 #include "sound/FDMC.h"
 #include "sound/MSounds.h"
 #include "support/globals.h"

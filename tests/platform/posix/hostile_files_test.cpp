@@ -11,14 +11,12 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <sstream>
 
 #include "cli/packer.h"
 #include "compose/MJeerbox.h"
 #include "helpers/recording_audio_control.h"
 #include "helpers/scrambled_writer.h"
-#include "helpers/silent_audio_control.h"
 #include "helpers/temp_dir.h"
 #include "platform/file_system.h"
 #include "sound/FDMC.h"
@@ -82,10 +80,8 @@ const Row kRows[] = {
     {"empty", true, [](const std::string& path) { std::ofstream{path}; }},
     {"binary", true,
      [](const std::string& path) {
-       std::mt19937 rng(7);
-       std::string noise(4096, '\0');
-       for (char& c : noise) c = static_cast<char>(rng());
-       std::ofstream(path, std::ios::binary) << noise;
+       std::ofstream(path, std::ios::binary)
+           << std::string("\0\xff\r\n[\x92<{", 8) + std::string(4096, '\x1f');
      }},
 };
 
