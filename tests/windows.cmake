@@ -49,9 +49,8 @@ jeerbox_wine_path(jeerbox_exe ${JEERBOX_PROGRAM_DIR}/jeerbox.exe)
 add_executable(win32_tests
   app/win32/resources_test.cpp
   platform/win32/audio_control_xaudio2_test.cpp
-  platform/win32/desktop_win32_test.cpp
+  platform/win32/win32_units_test.cpp
   platform/win32/file_system_win32_test.cpp
-  platform/win32/process_win32_test.cpp
   platform/win32/profile_win32_test.cpp
   cli/jeer_command_test.cpp
   cli/pack_test.cpp

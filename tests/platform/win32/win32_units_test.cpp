@@ -1,12 +1,34 @@
-// The clipboard as other programs read it: the sentence's characters in
+// The Win32 host units that can be tested in-process: the command line
+// after the program's name, however Windows quoted the program's path (the
+// instance mutex, the directory and the end are the end-to-end test's),
+// and the clipboard as other programs read it: the sentence's characters in
 // Unicode and in the ANSI code page (1252 here, as Wine's default).
-#include "platform/win32/desktop_win32.h"
-
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include "platform/win32/desktop_win32.h"
+#include "platform/win32/process_win32.h"
+
 namespace jeerbox {
 namespace {
+
+TEST(CommandLineArguments, AreWhatFollowsTheProgramName) {
+  const struct {
+    const char* commandLine;
+    const char* arguments;
+  } cases[] = {
+      {"jeerbox.exe", ""},
+      {"jeerbox.exe ", ""},
+      {"C:\\Jeerbox\\jeerbox.exe -x", "-x"},
+      {"jeerbox.exe \t a  b ", "a  b "},
+      {"\"C:\\Program Files\\Jeerbox\\jeerbox.exe\" \"two words\"", "\"two words\""},
+      {"\"C:\\Program Files\\Jeerbox\\jeerbox.exe\"", ""},
+      {"\"C:\\x y\\jeerbox.exe\"-x", "-x"},
+      {"\"unclosed quote", ""},
+      {"", ""},
+  };
+  for (const auto& c : cases) EXPECT_EQ(CommandLineArguments(c.commandLine), c.arguments) << c.commandLine;
+}
 
 std::string Read(UINT format) {
   std::string bytes;
