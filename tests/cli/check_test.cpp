@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "cli/checker.h"
+#include "helpers/run_command.h"
 #include "helpers/scrambled_writer.h"
 #include "helpers/temp_dir.h"
-#include "wordlist_test_util.h"
 
 namespace jeerbox::testing {
 namespace {

@@ -1,12 +1,13 @@
-// Runs the real jeer binary against program directories the tests write.
+// Runs the real jeer binary against program directories the tests write,
+// and against the shipped word lists beside it.
 #include <gtest/gtest.h>
 
 #include <set>
 
 #include "cli/escape.h"
+#include "helpers/run_command.h"
 #include "helpers/scrambled_writer.h"
 #include "helpers/temp_dir.h"
-#include "wordlist_test_util.h"
 
 namespace jeerbox::testing {
 namespace {
@@ -66,6 +67,22 @@ TEST_F(JeerTest, PickExpandsLinesListsThemStoredAndEscapesOnRequest) {
             (std::set<std::string>{"a damp sock", "a dusty sock", "a kipper"}));
   EXPECT_EQ(RunJeer("lines General-Insult" + Root()).out, "a {damp/dusty} sock\na kipper\n");
   EXPECT_EQ(RunJeer("lines General-Exclaim" + Root()).out, "\n");
+}
+
+// The shipped lists, beside jeer: varied sentences, and no "a" as a word of
+// its own in front of a, e, i or o (the article rule mends HowBig only; "a
+// u..." may be right).
+TEST(ShippedWords, SentencesAreVariedAndTheirArticlesFit) {
+  const std::vector<std::string> sentences = SplitLines(RunJeer("say --count 2000 --seed 1").out);
+  ASSERT_EQ(sentences.size(), 2000u);
+  for (const std::string& text : sentences) {
+    const std::string sentence = " " + text;
+    EXPECT_EQ(sentence.find("##"), std::string::npos) << sentence;
+    for (const char before : {' ', '"'})
+      for (const char vowel : std::string("aeioAEIO"))
+        EXPECT_EQ(sentence.find(std::string{before, 'a', ' ', vowel}), std::string::npos) << sentence;
+  }
+  EXPECT_GE(std::set<std::string>(sentences.begin(), sentences.end()).size(), 1960u);
 }
 
 TEST_F(JeerTest, ARootWithoutSystemGivesTheFixedLineAndSaysWhereItLooked) {

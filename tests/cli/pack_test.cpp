@@ -9,9 +9,10 @@
 #include "cli/packer.h"
 #include "cli/unpacker.h"
 #include "helpers/fake_file_system.h"
+#include "helpers/run_command.h"
 #include "helpers/scrambled_writer.h"
 #include "helpers/temp_dir.h"
-#include "wordlist_test_util.h"
+#include "support/globals.h"
 
 namespace jeerbox::testing {
 namespace {
@@ -114,12 +115,13 @@ TEST(PackRoundTrip, TheProgramReadsEachDataLineAsWrittenAndUnpackGivesTheSourceB
   EXPECT_EQ(Unpack(packed), kCanonical);
   FakeFileSystem files;
   files.Write("C:\\app\\System\\Misc.001", packed);
-  EXPECT_EQ(ReadList("C:\\app", "Misc-Jeerbox-Noun"),
+  gAppPath = "C:\\app";
+  EXPECT_EQ(ReadKeyLines("Misc-Jeerbox-Noun"),
             (std::vector<std::string>{"turnip", "caf\xe9 owner", ";semicolon first", "[bracket first",
                                       "@at first", "\\backslash first", "{soggy/damp} <Insult>"}));
-  EXPECT_EQ(ReadList("C:\\app", "Misc-Jeerbox-Adjective"), std::vector<std::string>{"odious"});
+  EXPECT_EQ(ReadKeyLines("Misc-Jeerbox-Adjective"), std::vector<std::string>{"odious"});
   gAllowMarkedText = false;  // the marker went in
-  EXPECT_TRUE(ReadList("C:\\app", "Misc-Jeerbox-Adjective").empty());
+  EXPECT_EQ(ReadKeyLines("Misc-Jeerbox-Adjective"), std::vector<std::string>{""});
   gAllowMarkedText = true;
 }
 
@@ -137,11 +139,12 @@ TEST(PackRoundTrip, UnpackThenPackReadsTheSameLists) {
   const std::string repacked = Pack(Unpack(file.Bytes(), 1));  // noted: the line of blanks
   EXPECT_NE(repacked.find(SimpleCrypt("<XT>")), std::string::npos);
   FakeFileSystem files;
+  gAppPath = "C:\\app";
   for (const char* key : {"Misc-A", "Misc-B"}) {
     files.Write("C:\\app\\System\\Misc.001", file.Bytes());
-    const std::vector<std::string> before = ReadList("C:\\app", key);
+    const std::vector<std::string> before = ReadKeyLines(key);
     files.Write("C:\\app\\System\\Misc.001", repacked);
-    EXPECT_EQ(ReadList("C:\\app", key), before) << key;
+    EXPECT_EQ(ReadKeyLines(key), before) << key;
   }
   std::vector<Diagnostic> diagnostics, notes;
   ScrambledWriter bad;

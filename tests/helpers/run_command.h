@@ -30,4 +30,9 @@ inline CommandRun RunCommand(const std::string& commandLine) {
   return {status, dir.Read("out"), dir.Read("err")};
 }
 
+#ifdef JEER_PATH
+// Runs the jeer binary the test was built with.
+inline CommandRun RunJeer(const std::string& args) { return RunCommand(std::string(JEER_PATH) + " " + args); }
+#endif
+
 }  // namespace jeerbox::testing

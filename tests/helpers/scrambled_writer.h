@@ -1,12 +1,14 @@
 // Builds text files in the scrambled, sectioned format: heads, data lines,
 // comments and the marker, with CR LF line ends. Tests write their data
-// with it instead of keeping scrambled blobs.
+// with it instead of keeping scrambled blobs, and read it back as the
+// program does.
 #pragma once
 
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "text/CTextGenerator.h"
 #include "text/MSimpleCrypto.h"
 
 namespace jeerbox::testing {
@@ -48,5 +50,14 @@ class ScrambledWriter {
  private:
   std::string mBytes;
 };
+
+// The key's line list as the program reads it from gAppPath's System,
+// unscrambled: one empty line when the program finds nothing.
+inline std::vector<std::string> ReadKeyLines(const std::string& key) {
+  CTextGenerator generator;  // holds the files the lines point into
+  std::vector<std::string> lines;
+  for (std::string_view line : generator.GetCacheItem(key)) lines.push_back(SimpleCrypt(line));
+  return lines;
+}
 
 }  // namespace jeerbox::testing

@@ -26,13 +26,6 @@ class TextStoreTest : public ::testing::Test {
   void WriteLists(const std::string& name, const KeyLines& lists) {
     WriteFile(name, ScrambledWriter().Sections(lists));
   }
-  // The key's line list, unscrambled.
-  static std::vector<std::string> Lines(const std::string& key) {
-    CTextGenerator generator;  // holds the files the lines point into
-    std::vector<std::string> out;
-    for (std::string_view line : generator.GetCacheItem(key)) out.push_back(SimpleCrypt(line));
-    return out;
-  }
 
   FakeFileSystem fs;
   ScriptedRandom random;

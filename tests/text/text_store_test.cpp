@@ -108,8 +108,8 @@ TEST_F(StoreTest, AKeyIsItsLinesOverTheFamilyInOrderEachAsLikely) {
   WriteLists("General.001", {{"General-Insult", {"0", "1"}}, {"General-Curse", {"c"}}});
   WriteLists("General.002", {{"General-Curse", {"d"}}, {"General-Insult", {"2"}}});
   WriteLists("General.004", {{"General-Insult", {"past the gap"}}});
-  EXPECT_EQ(Lines("General-Insult"), (Strings{"0", "1", "2"}));
-  EXPECT_EQ(Lines("General-Curse"), (Strings{"c", "d"}));
+  EXPECT_EQ(ReadKeyLines("General-Insult"), (Strings{"0", "1", "2"}));
+  EXPECT_EQ(ReadKeyLines("General-Curse"), (Strings{"c", "d"}));
   CTextGenerator generator;
   for (int i = 0; i < 3; ++i) {
     random.Push(PickIndex(i, 3));
@@ -120,10 +120,10 @@ TEST_F(StoreTest, AKeyIsItsLinesOverTheFamilyInOrderEachAsLikely) {
 }
 
 TEST_F(StoreTest, NothingFoundIsOneEmptyLineAndPicksTheFixedText) {
-  EXPECT_EQ(Lines("General-Insult"), Strings{""});
+  EXPECT_EQ(ReadKeyLines("General-Insult"), Strings{""});
   WriteLists("General.001", {{"General-Curse", {"c"}}});
   WriteFile("General.002", ScrambledWriter().Section("General-Insult").Comment("only a comment"));
-  EXPECT_EQ(Lines("General-Insult"), Strings{""});
+  EXPECT_EQ(ReadKeyLines("General-Insult"), Strings{""});
   EXPECT_EQ(CTextGenerator().GetText("General-Insult"), kMissingFilesText);
 }
 
@@ -132,7 +132,7 @@ TEST_F(StoreTest, NothingFoundIsOneEmptyLineAndPicksTheFixedText) {
 TEST_F(StoreTest, StoredLinesAreTestedBeforeUnscramblingAndPicksAreTrimmed) {
   WriteFile("Misc.001",
             ScrambledWriter().Section("Misc-A").Raw(";" + SimpleCrypt("x")).Lines({"  kept  ", "   "}));
-  EXPECT_EQ(Lines("Misc-A"), (Strings{"  kept  ", "   "}));
+  EXPECT_EQ(ReadKeyLines("Misc-A"), (Strings{"  kept  ", "   "}));
   CTextGenerator generator;
   random.Push(PickIndex(0, 2));
   EXPECT_EQ(generator.GetText("Misc-A"), "kept");
@@ -149,9 +149,9 @@ TEST_F(StoreTest, AMarkedFileCountsOnlyWhileMarkedTextIsAllowedWhereverTheMarker
         ScrambledWriter().Section("Misc-A").Line("marked").Raw("ab" + marker)}) {
     WriteFile("Misc.002", file);
     gAllowMarkedText = true;
-    EXPECT_EQ(Lines("Misc-A").at(1), "marked") << file.Bytes();
+    EXPECT_EQ(ReadKeyLines("Misc-A").at(1), "marked") << file.Bytes();
     gAllowMarkedText = false;
-    EXPECT_EQ(Lines("Misc-A"), Strings{"plain"}) << file.Bytes();
+    EXPECT_EQ(ReadKeyLines("Misc-A"), Strings{"plain"}) << file.Bytes();
   }
 }
 
@@ -162,7 +162,7 @@ TEST_F(StoreTest, NineHundredNinetyNineFilesAndNoThousandth) {
     WriteLists(name, {{n == 999 ? "Misc-A" : "Misc-Other", {"last"}}});
   }
   WriteLists("Misc.1000", {{"Misc-A", {"never"}}});
-  EXPECT_EQ(Lines("Misc-A"), Strings{"last"});
+  EXPECT_EQ(ReadKeyLines("Misc-A"), Strings{"last"});
 }
 
 }  // namespace
