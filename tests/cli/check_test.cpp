@@ -68,7 +68,8 @@ TEST_F(CheckTest, FindsWhatTheProgramWillMeet) {
   general.Section("General-Insult2").Lines({"a <Pirate> hat", "{a/b", "a}b", "x {} y", "{a{b}c}", "{a/}"});
   general.Section("General-Extra").Line("<Curse>");
   ScrambledWriter loops;
-  loops.Section("General-Curse").Line("<Exclaim>").Section("General-Exclaim").Line("{oh/<Curse>}");
+  loops.Section("General-Curse").Line("<Exclaim>").Raw("   ");  // right in front of a head: read, with the CR
+  loops.Raw("[" + SimpleCrypt("General-Exclaim") + "]").Line("{oh/<Curse>}");
   root.Write("System/General.002", loops.Bytes());
   const CheckReport report = Check();
   // Rows: key ("" for Misc), finding, told.
@@ -85,6 +86,7 @@ TEST_F(CheckTest, FindsWhatTheProgramWillMeet) {
       {"General-Insult2", "inside a brace group", true},
       {"General-Curse", "recurse into itself: General-Curse -> General-Exclaim -> General-Curse", true},
       {"General-Exclaim", "recurse into itself", true},
+      {"General-Curse", "of blanks", false},
       {"General-Extra", "recurse", false},  // it reaches a loop but isn't on one
       {"General-Character", "recurse", false}};
   for (const auto& [key, finding, told] : rows) {
