@@ -31,24 +31,29 @@ namespace {
 
 TEST(PosixFileSystem, ReadsBytesAsTheyAreUpToTheLimitAndTellsMissingFromUnreadable) {
   TempDir dir;
-  const std::string bytes("a\r\n\0\xff[b", 7);
+  // Small files take one read; one past the first read's 120 KB is read on.
+  const std::string bytes("a\r\n\0\xff[b", 7), large = bytes + std::string(200 << 10, 'x');
   dir.Write("System/Misc.001", bytes);
-  const std::string file = dir.Path() + "\\System\\Misc.001";
+  dir.Write("large", large);
+  const std::string file = dir.Path() + "\\System\\Misc.001", largeFile = dir.Path() + "\\large";
   const struct {
     const char* name;
     std::string path;
     size_t limit;
     FileStatus status;
+    std::string read;
   } cases[] = {
-      {"whole at the limit", file, bytes.size(), FileStatus::kOk},
-      {"one byte over", file, bytes.size() - 1, FileStatus::kError},
-      {"missing", dir.Path() + "\\nothing", 9, FileStatus::kNotFound},
-      {"through a file", file + "\\x", 9, FileStatus::kNotFound},
+      {"whole at the limit", file, bytes.size(), FileStatus::kOk, bytes},
+      {"one byte over", file, bytes.size() - 1, FileStatus::kError, ""},
+      {"large, whole at the limit", largeFile, large.size(), FileStatus::kOk, large},
+      {"large, one byte over", largeFile, large.size() - 1, FileStatus::kError, ""},
+      {"missing", dir.Path() + "\\nothing", 9, FileStatus::kNotFound, ""},
+      {"through a file", file + "\\x", 9, FileStatus::kNotFound, ""},
   };
   for (const auto& c : cases) {
     std::string read = "stale";
     EXPECT_EQ(HostFileSystem().ReadFile(c.path, &read, c.limit), c.status) << c.name;
-    EXPECT_EQ(read, c.status == FileStatus::kOk ? bytes : "") << c.name;
+    EXPECT_EQ(read, c.read) << c.name;
   }
   // jeer pack's listing: regular files only, sorted.
   dir.Write("System/A.txt", "");
