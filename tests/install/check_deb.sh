@@ -7,10 +7,6 @@ build=$1
 has_window=$2
 source "$(dirname "$0")/common.sh"
 
-if ! command -v dpkg-deb >/dev/null; then
-  echo "dpkg-deb not installed: nothing to check"
-  exit 0
-fi
 if ! cpack --config "$build/CPackConfig.cmake" -G DEB -B "$scratch" >"$scratch/cpack.log" 2>&1; then
   cat "$scratch/cpack.log" >&2
   fail "cpack"

@@ -22,9 +22,7 @@ start() {
   pids+=("$pid")
   tracer=()
 }
-nonzero_bytes() {  # nonzero_bytes FILE: how many bytes of FILE aren't 0
-  python3 -c 'import sys; d=open(sys.argv[1],"rb").read(); print(len(d)-d.count(0))' "$1" 2>/dev/null || echo 0
-}
+nonzero_bytes() { { tr -d '\000' <"$1"; } 2>/dev/null | wc -c; }  # how many bytes of FILE aren't 0
 clipboard() { timeout 5 xclip -o -selection clipboard 2>/dev/null; }
 
 # --- Insult me (with a laugh), Copy, the clipboard. SDL's disk driver
