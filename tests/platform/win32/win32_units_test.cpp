@@ -3,11 +3,13 @@
 // instance mutex, the directory and the end are the end-to-end test's),
 // and the clipboard as other programs read it: the sentence's characters in
 // Unicode and in the ANSI code page (1252 here, as Wine's default).
-#include <gtest/gtest.h>
-#include <windows.h>
 
+// Ours first: windows.h would turn names of the seams into macros.
 #include "platform/win32/desktop_win32.h"
 #include "platform/win32/process_win32.h"
+// Then the system's.
+#include <gtest/gtest.h>
+#include <windows.h>
 
 namespace jeerbox {
 namespace {
