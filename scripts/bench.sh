@@ -110,12 +110,13 @@ done
 window_rows=""
 field() { echo "$1" | tr ' ' '\n' | awk -F= -v k="$2" '$1 == k {print $2}'; }  # field "k=v ..." k
 reference=$build/bench/reference_dialog
-if [ -x "$build/jeerbox" ] && [ -x "$reference" ]; then
+timer=$build/bench/window_startup
+if [ -x "$build/jeerbox" ] && [ -x "$reference" ] && [ -x "$timer" ]; then
   say "window start-up and memory: jeerbox against the reference dialog"
-  ref=$(scripts/bench-window.sh "$reference" "Jeerbox reference dialog" "$win_runs" "$presses")
+  ref=$(scripts/bench-window.sh "$timer" "$reference" "Jeerbox reference dialog" "$win_runs" "$presses")
   # The caption is the product domain and "Insult me" the default button,
   # so Return presses it.
-  app=$(scripts/bench-window.sh "$build/jeerbox" "${JEERBOX_TITLE:-www.jeerbox.example.org}" "$win_runs" "$presses" "${JEERBOX_PRESS_KEY:-Return}")
+  app=$(scripts/bench-window.sh "$timer" "$build/jeerbox" "${JEERBOX_TITLE:-www.jeerbox.example.org}" "$win_runs" "$presses" "${JEERBOX_PRESS_KEY:-Return}")
   window_rows=$(awk -v as="$(field "$app" startup_ms)" -v rs="$(field "$ref" startup_ms)" \
     -v ap="$(field "$app" peak_kb)" -v rp="$(field "$ref" peak_kb)" \
     -v a100="$(field "$app" rss_100_kb)" -v alast="$(field "$app" rss_last_kb)" -v n="$presses" '

@@ -12,7 +12,7 @@ elif [ -z "${JEERBOX_IN_XVFB:-}" ]; then
     command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is missing (scripts/install-deps.sh installs it)"; exit 77; }
   done
   export JEERBOX_IN_XVFB=1
-  exec xvfb-run -a -s "-screen 0 1024x768x24 -nolisten tcp" "$0" "$@"
+  exec xvfb-run -a -s "-screen 0 1024x768x24 -noreset -nolisten tcp" "$0" "$@"
 fi
 
 work=$(mktemp -d "$dir/../session.XXXXXX")
