@@ -3,6 +3,9 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleFactory>
 
 #include "platform/qt/qt_text.h"
 
@@ -37,6 +40,14 @@ CTextBox::CTextBox(QWidget* parent) : QPlainTextEdit(parent) {
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setLineWrapMode(QPlainTextEdit::WidgetWidth);
+  // The classic Windows scroll bar, flat and bevelled. Every new text
+  // resets the bar's steps and so repaints it, and Fusion's gradients would
+  // have Qt hand that repaint to its paint threads: on two cores the
+  // hand-over alone doubled the time of a press.
+  if (QStyle* classic = QStyleFactory::create(QStringLiteral("Windows"))) {
+    classic->setParent(verticalScrollBar());
+    verticalScrollBar()->setStyle(classic);
+  }
 }
 
 void CTextBox::SetText(const std::string& text) {
