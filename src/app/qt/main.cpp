@@ -22,11 +22,12 @@
 extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1.so\n"; }
 
 int main(int argc, char* argv[]) {
+  // Audio counts its devices in a process of its own while Qt comes up, so
+  // it starts before any thread or descriptor of ours; with no sound device
+  // the audio form stays silent.
+  const jeerbox::SdlAudio audio = jeerbox::StartSdlAudio();
   // Before QApplication takes its own options out of argv.
   jeerbox::QtProcess process(argc, argv, "jeerbox");
-  // Audio counts its devices on a thread of its own while Qt comes up; with
-  // no sound device the audio form stays silent.
-  const jeerbox::SdlAudio audio = jeerbox::StartSdlAudio();
   QApplication app(argc, argv);
   jeerbox::LoadDialogFont();
 

@@ -15,8 +15,9 @@ struct SdlAudio {
   std::unique_ptr<IWaveDevices> devices;
 };
 
-// Starts counting the output devices at once, on a thread of its own, so
-// make it early; nothing is opened until OpenMixer.
+// Starts counting the output devices at once, in a child process when
+// called before the program has started a thread, else on a thread of its
+// own, so make it early; nothing is opened until OpenMixer.
 SdlAudio StartSdlAudio();
 
 }  // namespace jeerbox
