@@ -1,7 +1,8 @@
 // SDL's audio beside the program: the output devices are counted from the
 // moment the host is made (in a child process where it can), and the mixer
-// opens on a thread of its own when asked, so neither holds up the window. Whoever needs an answer waits for it; calls on the
-// mixer thus come in the order the program made them.
+// opens on a thread of its own when asked, so neither holds up the window.
+// Whoever needs an answer waits for it; calls on the mixer thus come in the
+// order the program made them.
 #pragma once
 
 #include <future>
