@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -19,6 +20,15 @@ static void InitImages() { Q_INIT_RESOURCE(resources); }
 
 namespace jeerbox {
 namespace {
+
+// An image of the program's own, read by the handler of its format alone: a
+// reader left to detect the format, as a QIcon or QPixmap made from a file
+// name is, loads every image plugin installed to ask each of them first.
+QPixmap OwnImage(const char* path, const char* format) {
+  QImageReader reader(QString::fromLatin1(path), format);
+  reader.setAutoDetectImageFormat(false);
+  return QPixmap::fromImage(reader.read());
+}
 
 const QColor kTeal(0, 128, 128);
 const QColor kBandBlue(0, 153, 255);
@@ -66,7 +76,7 @@ JeerboxDialog::JeerboxDialog(FJeerbox& form, QWidget* parent) : QDialog(parent),
   InitImages();
   setObjectName(QStringLiteral("FJeerbox"));
   setWindowTitle(ToQString(mForm.GetDeployment().productDomain));
-  setWindowIcon(QIcon(QStringLiteral(":/images/jeerbox_icon.xpm")));
+  setWindowIcon(QIcon(OwnImage(":/images/jeerbox_icon.xpm", "xpm")));
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
   setFixedSize(Px(6660), Px(5205));
@@ -90,8 +100,8 @@ void JeerboxDialog::BuildControls() {
   imgSponsoredBy = new CImage(this);
   imgSponsoredBy->setObjectName(QStringLiteral("imgSponsoredBy"));
   imgSponsoredBy->setGeometry(Twips(120, 4200, 6435, 660));
-  imgSponsoredBy->setPixmap(QPixmap(QStringLiteral(":/images/sponsor_banner.gif")));
-  imgSponsoredBy->setCursor(QCursor(QPixmap(QStringLiteral(":/images/hand_cursor.xpm")), 5, 0));
+  imgSponsoredBy->setPixmap(OwnImage(":/images/sponsor_banner.gif", "gif"));
+  imgSponsoredBy->setCursor(QCursor(OwnImage(":/images/hand_cursor.xpm", "xpm"), 5, 0));
   connect(imgSponsoredBy, &CImage::Click, this, [this] { mForm.imgSponsoredBy_Click(); });
 
   lblSponsoredBy = MakeLabel(this, "lblSponsoredBy",

@@ -8,6 +8,9 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
+
+#include "platform/sdl/sound_presence.h"
 
 namespace jeerbox {
 namespace {
@@ -81,8 +84,14 @@ unsigned AwaitChild(pid_t child, int answer) {
 // while this process has one thread only does it in an address space of its
 // own, on the other core, and answers through a pipe; the program never
 // loads SDL when there is nothing to play on. With more threads (a fork
-// would copy locks they hold), or if the fork fails, a thread counts.
+// would copy locks they hold), or if the fork fails, a thread counts. A
+// host with no sound at all is told without either.
 std::shared_future<unsigned> StartCount() {
+  if (!MayHaveSoundOutput("", std::getenv)) {
+    std::promise<unsigned> none;
+    none.set_value(0);
+    return none.get_future().share();
+  }
   int pipeEnds[2];
   if (ThreadCount() == 1 && pipe2(pipeEnds, O_CLOEXEC) == 0) {
     const pid_t child = fork();
