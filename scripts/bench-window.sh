@@ -7,6 +7,7 @@
 # PRESSES (default 1000) presses of KEY (default Return, the default button)
 # in one further launch, and its peak. Prints one line:
 #   startup_ms=... rss_100_kb=... rss_last_kb=... peak_kb=...
+# PRESSES 0 measures the start-up only.
 set -euo pipefail
 timer=$1
 program=$2
@@ -69,6 +70,10 @@ stop() {
 }
 
 startup_ms=$("$timer" "$title" "$runs" "$program")
+if [ "$presses" = 0 ]; then
+  echo "startup_ms=$startup_ms"
+  exit 0
+fi
 
 rss_kb() { awk -v f="$1" '$1 == f":" {print $2}' "/proc/$app_pid/status"; }
 

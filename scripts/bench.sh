@@ -113,16 +113,25 @@ reference=$build/bench/reference_dialog
 timer=$build/bench/window_startup
 if [ -x "$build/jeerbox" ] && [ -x "$reference" ] && [ -x "$timer" ]; then
   say "window start-up and memory: jeerbox against the reference dialog"
-  ref=$(scripts/bench-window.sh "$timer" "$reference" "Jeerbox reference dialog" "$win_runs" "$presses")
   # The caption is the product domain and "Insult me" the default button,
   # so Return presses it.
-  app=$(scripts/bench-window.sh "$timer" "$build/jeerbox" "${JEERBOX_TITLE:-www.jeerbox.example.org}" "$win_runs" "$presses" "${JEERBOX_PRESS_KEY:-Return}")
-  window_rows=$(awk -v as="$(field "$app" startup_ms)" -v rs="$(field "$ref" startup_ms)" \
+  app_title=${JEERBOX_TITLE:-www.jeerbox.example.org}
+  # Start-up in rounds taken in turn, as for the processes above; the
+  # median of each program's round medians counts.
+  ref_ms="" app_ms=""
+  for round in 1 2 3 4 5; do
+    ref_ms+=" $(field "$(scripts/bench-window.sh "$timer" "$reference" "Jeerbox reference dialog" "$win_runs" 0)" startup_ms)"
+    app_ms+=" $(field "$(scripts/bench-window.sh "$timer" "$build/jeerbox" "$app_title" "$win_runs" 0)" startup_ms)"
+  done
+  middle() { echo $1 | tr ' ' '\n' | sort -n | awk '{v[NR] = $1} END {print v[int((NR + 1) / 2)]}'; }
+  ref=$(scripts/bench-window.sh "$timer" "$reference" "Jeerbox reference dialog" 1 "$presses")
+  app=$(scripts/bench-window.sh "$timer" "$build/jeerbox" "$app_title" 1 "$presses" "${JEERBOX_PRESS_KEY:-Return}")
+  window_rows=$(awk -v as="$(middle "$app_ms")" -v rs="$(middle "$ref_ms")" \
     -v ap="$(field "$app" peak_kb)" -v rp="$(field "$ref" peak_kb)" \
     -v a100="$(field "$app" rss_100_kb)" -v alast="$(field "$app" rss_last_kb)" -v n="$presses" '
     function met(ok) { return ok ? "met" : "**missed**" }
     BEGIN {
-      printf "| Start-up to window mapped (Xvfb), median | %.0f ms | reference dialog: %.0f ms | %.2f | at most 1.1 | %s |\n", as, rs, as / rs, met(as / rs <= 1.1)
+      printf "| Start-up to window mapped (Xvfb), median of 5 alternating rounds | %.0f ms | reference dialog: %.0f ms | %.2f | at most 1.1 | %s |\n", as, rs, as / rs, met(as / rs <= 1.1)
       printf "| Peak RSS after %d presses | %d KB | reference dialog: %d KB | %.2f | at most 1.2 | %s |\n", n, ap, rp, ap / rp, met(ap / rp <= 1.2)
       printf "| RSS growth, press 100 to press %d | %+d KB | none | - | no growth | %s |\n", n, alast - a100, met(alast - a100 <= 0)
     }')
