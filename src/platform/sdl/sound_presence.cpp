@@ -30,8 +30,9 @@ std::vector<std::string> Entries(const std::string& path) {
 // An ALSA playback device: /dev/snd/pcmC<card>D<device>p.
 bool HasPlaybackDevice(const std::string& snd) {
   const std::vector<std::string> names = Entries(snd);
-  return std::any_of(names.begin(), names.end(),
-                     [](const std::string& name) { return name.rfind("pcmC", 0) == 0 && name.back() == 'p'; });
+  return std::any_of(names.begin(), names.end(), [](const std::string& name) {
+    return name.rfind("pcmC", 0) == 0 && name.back() == 'p';
+  });
 }
 
 // A client.conf that names a server, which may be on another machine.
@@ -56,8 +57,8 @@ bool InPath(const std::string& root, const std::string& path, const char* progra
 }  // namespace
 
 bool MayHaveSoundOutput(const std::string& root, const EnvLookup& env) {
-  for (const char* chosen : {"SDL_AUDIODRIVER", "SDL_AUDIO_DRIVER", "PULSE_SERVER", "PIPEWIRE_REMOTE",
-                             "ALSA_CONFIG_PATH"})
+  for (const char* chosen :
+       {"SDL_AUDIODRIVER", "SDL_AUDIO_DRIVER", "PULSE_SERVER", "PIPEWIRE_REMOTE", "ALSA_CONFIG_PATH"})
     if (!Var(env, chosen).empty()) return true;
   if (HasPlaybackDevice(root + "/dev/snd")) return true;
 
